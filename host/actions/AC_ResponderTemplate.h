@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "host/actions/AC_Responder.h"
+
+class AC_Manager;
+
+/// A responder with an identity that keeps itself registered with an action manager.
+class HOST_EXPORT AC_ResponderTemplate : public AC_Responder
+{
+public:
+    explicit AC_ResponderTemplate(const QString& identity);
+    ~AC_ResponderTemplate() override;
+
+    QString responderIdentity() const override;
+    AC_Responder* parentResponder() override;
+
+    /// Registers with the manager, and leaves the one before. Null only leaves. The manager must
+    /// outlive the responder.
+    void initActionManager(AC_Manager* manager);
+    /// The manager that the responder is registered with; null when there is none.
+    AC_Manager* actionManager() const;
+
+private:
+    QString _identity;
+    AC_Manager* _manager = nullptr;
+};

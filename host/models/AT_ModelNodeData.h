@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <OpenSG/OSGMatrix.h>
+
+/// The settings of one subnode at a frame. A value; by default the subnode is shown as modelled.
+struct AT_ModelNodeData
+{
+    /// Whether the subnode, and with it everything below it, is on.
+    bool visible = true;
+    /// Whether the subnode's own shape is drawn; not inherited.
+    bool localVisible = true;
+    /// Applied after the subnode's own transformation.
+    osg::Matrix transformation;
+
+    friend bool operator==(const AT_ModelNodeData& a, const AT_ModelNodeData& b)
+    {
+        return a.visible == b.visible && a.localVisible == b.localVisible &&
+               a.transformation == b.transformation;
+    }
+};

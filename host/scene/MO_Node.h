@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "host/scene/MO_Module.h"
+#include "host/scene/UT_SharedWeakPtr.h"
+
+#include <memory>
+
+class MO_GroupModule;
+class SC_SceneCommon;
+class SLB_NodeInterface;
+class SL_Selection;
+class TUScene;
+
+/// A module with a name and a place in the node network. A node belongs to the group that holds
+/// it, and through that group to a scene; a detached node has neither.
+///
+/// Setters take effect at once and note the change with the scene's change manager, which tells
+/// listeners when it is next asked to. They cannot be undone: commands are made of them.
+class HOST_EXPORT MO_Node : public MO_Module, public UT_SharedWeakTarget
+{
+public:
+    ~MO_Node() override;
+
+    QString instanceName() const;
+    void setInstanceName(const QString& name);
+
+    /// The place in the node network, in its units; y grows downwards.
+    double x() const;
+    double y() const;
+    void setX(double x);
+    void setY(double y);
+
+    /// The group that holds the node; null while detached and for a root group.
+    MO_GroupModule* parentGroup() const;
+
+    /// The scene that the node is part of; null while detached.
+    TUScene* scene() const;
+    SC_SceneCommon* sceneCommon() const;
+
+    /// The node's selection interface: non-null exactly while the node is in a selection, which
+    /// owns it.
+    SLB_NodeInterface* selInterface() const;
+    bool selected() const { return selInterface() != nullptr; }
+
+protected:
+    explicit MO_Node(const QString& instanceName);
+
+    /// Called when the node enters a scene or leaves it (null).
+    virtual void setScene(TUScene* scene);
+
+private:
+    friend class MO_GroupModule;
+    friend class SL_Selection;
+    friend class TUScene;
+    struct Private;
+    std::unique_ptr<Private> d;
+};

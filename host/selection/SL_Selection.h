@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "host/HostExport.h"
+
+#include <memory>
+#include <vector>
+
+class MO_Node;
+class SLB_NodeInterface;
+class TUSceneChangeManager;
+
+/// The nodes that the user has selected, in the order of selecting. A node that dies leaves the
+/// selection by itself. Changes are noted with the change manager; a batch scope tells them when
+/// it ends, and outside a scope whoever makes the change does.
+class HOST_EXPORT SL_Selection
+{
+public:
+    /// While a scope is open changes are only collected; when the outermost one ends, whatever
+    /// changed is told at once.
+    class HOST_EXPORT BatchSelectionModeScope
+    {
+    public:
+        /// A null selection gives a scope that does nothing.
+        explicit BatchSelectionModeScope(SL_Selection* selection);
+        ~BatchSelectionModeScope();
+        BatchSelectionModeScope(const BatchSelectionModeScope&) = delete;
+        BatchSelectionModeScope& operator=(const BatchSelectionModeScope&) = delete;
+
+    private:
+        SL_Selection* _selection;
+    };
+
+    /// The change manager is not owned and must outlive the selection.
+    explicit SL_Selection(TUSceneChangeManager* changeManager);
+    ~SL_Selection();
+    SL_Selection(const SL_Selection&) = delete;
+    SL_Selection& operator=(const SL_Selection&) = delete;
+
+    bool empty() const;
+    /// In the order of selecting; never null.
+    std::vector<MO_Node*> nodes() const;
+
+    /// A null node, or one that is in the selection, is ignored.
+    void add(MO_Node* node);
+    /// A null node, or one that is not in the selection, is ignored.
+    void remove(MO_Node* node);
+    void clear();
+
+private:
+    friend class SelectedNode;
+    struct Private;
+    std::unique_ptr<Private> d;
+};
