@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+
+#include "graphview/GV_ShownRows.h"
+
+#include "graphview/GV_TreeWalk.h"
+#include "graphview/GV_UiNode.h"
+
+#include <algorithm>
+
+bool GV_ShownRows::isCurrent(const GV_UiNode* root) const
+{
+    return _root == root && _treeRevision == GV_UiNode::treeRevision() &&
+           _layoutRevision == GV_UiNode::layoutRevision();
+}
+
+void GV_ShownRows::rebuild(GV_UiNode* root)
+{
+    start(root);
+    GV_TreeWalk walk(root);
+    while (GV_UiNode* node = walk.next()) {
+        append(node);
+        if (node->isCollapsed())
+            walk.skipChildren();
+    }
+    finish();
+}
+
+void GV_ShownRows::start(GV_UiNode* root)
+{
+    _root = root;
+    _nodes.clear();
+}
+
+void GV_ShownRows::finish()
+{
+    _inOrder = true;
+    for (std::size_t i = 0; i < _nodes.size() && _inOrder; ++i)
+        _inOrder = _nodes[i]->row() == static_cast<int>(i);
+    _treeRevision = GV_UiNode::treeRevision();
+    _layoutRevision = GV_UiNode::layoutRevision();
+}
+
+GV_UiNode* GV_ShownRows::nodeAtRow(int row) const
+{
+    if (_inOrder)
+        return row >= 0 && row < static_cast<int>(_nodes.size()) ? _nodes[row] : nullptr;
+    const auto it = std::find_if(_nodes.begin(), _nodes.end(),
+                                 [row](const GV_UiNode* node) { return node->row() == row; });
+    return it == _nodes.end() ? nullptr : *it;
+}
