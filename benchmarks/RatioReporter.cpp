@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+
+#include "benchmarks/RatioReporter.h"
+
+#include <cstdio>
+#include <utility>
+
+RatioReporter::RatioReporter(std::vector<Aim> aims)
+    : _aims(std::move(aims))
+{
+}
+
+void RatioReporter::ReportRuns(const std::vector<Run>& runs)
+{
+    for (const Run& run : runs) {
+        if (run.run_type == Run::RT_Iteration && !run.error_occurred) {
+            constexpr double nanoseconds = 1e9;
+            const auto iterations = static_cast<double>(run.iterations);
+            // The best of several repetitions is the one least disturbed.
+            const double time = run.cpu_accumulated_time / iterations * nanoseconds;
+            const auto [it, isNew] = _times.emplace(run.benchmark_name(), time);
+            if (!isNew && time < it->second)
+                it->second = time;
+        }
+    }
+    ConsoleReporter::ReportRuns(runs);
+}
+
+void RatioReporter::Finalize()
+{
+    std::printf("\n%-62s %10s %10s\n", "ratio", "measured", "aim");
+    for (const Aim& aim : _aims) {
+        const auto measured = _times.find(aim.measured);
+        std::vector<double> floor;
+        for (const std::string& name : aim.floorNames) {
+            if (const auto it = _times.find(name); it != _times.end())
+                floor.push_back(it->second);
+        }
+        if (measured == _times.end() || floor.size() != aim.floorNames.size())
+            continue;
+        const double ratio = measured->second / aim.floor(floor);
+        std::printf("%-62s %10.2f %10.2f%s\n", aim.what.c_str(), ratio, aim.atMost,
+                    ratio > aim.atMost ? "  missed" : "");
+    }
+}
