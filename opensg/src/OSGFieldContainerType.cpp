@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+#include <OpenSG/OSGFieldContainerType.h>
+
+#include "TypeRegistry.h"
+
+namespace osg {
+
+FieldContainerType::FieldContainerType(const Char8* name, const Char8* parentName)
+    : m_name(name)
+    , m_parentName(parentName)
+{
+    TypeRegistry::add(*this);
+}
+
+FieldContainerType::~FieldContainerType()
+{
+    TypeRegistry::remove(*this);
+}
+
+} // namespace osg
