@@ -11,12 +11,14 @@ class HOST_EXPORT AC_ResponderTemplate : public AC_Responder
 public:
     explicit AC_ResponderTemplate(const QString& identity);
     ~AC_ResponderTemplate() override;
+    AC_ResponderTemplate(const AC_ResponderTemplate&) = delete;
+    AC_ResponderTemplate& operator=(const AC_ResponderTemplate&) = delete;
 
     QString responderIdentity() const override;
     AC_Responder* parentResponder() override;
 
-    /// Registers with the manager, and leaves the one before. Null only leaves. The manager must
-    /// outlive the responder.
+    /// Registers with the manager, and leaves the one before. Null only leaves. A manager that dies
+    /// first is left by then.
     void initActionManager(AC_Manager* manager);
     /// The manager that the responder is registered with; null when there is none.
     AC_Manager* actionManager() const;

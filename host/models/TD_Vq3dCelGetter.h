@@ -16,6 +16,7 @@ public:
 
     using MO_ModuleVisitor::visit;
     void visit(MO_ElementModule* module) override;
+    void visit(MO_Module* module) override;
 
     /// The model of the module visited last; null when it shows none at that frame.
     CEL_SharedPtr<TD_CelVq3d> celPtr() const { return _cel; }

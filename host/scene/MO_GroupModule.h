@@ -21,13 +21,11 @@ public:
     int indexOf(const MO_Node* node) const;
 
     /// Takes the node in before the given position; -1 or a position past the end appends.
-    /// Returns the node. A null node is ignored and gives null.
+    /// Returns the node. A null node is ignored and gives null. The node must not hold this group.
     MO_Node* insertNode(std::unique_ptr<MO_Node> node, int position = -1);
-    /// Gives the node up, unselected; null when it is not in this group.
+    /// Gives the node up, and with it what it holds, unselected; null when it is not in this
+    /// group.
     std::unique_ptr<MO_Node> takeNode(MO_Node* node);
-
-protected:
-    void setScene(TUScene* scene) override;
 
 private:
     std::vector<std::unique_ptr<MO_Node>> _nodes;

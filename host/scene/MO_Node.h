@@ -46,7 +46,7 @@ public:
 protected:
     explicit MO_Node(const QString& instanceName);
 
-    /// Called when the node enters a scene or leaves it (null).
+    /// Called when the node enters a scene or leaves it (null), for each node by itself.
     virtual void setScene(TUScene* scene);
 
 private:

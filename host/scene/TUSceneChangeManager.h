@@ -31,8 +31,11 @@ public:
     void emitChildrenOrderingChanged(MO_Node* node);
 
     /// Tells what was noted, in the order of the signals below, and forgets it. What listeners
-    /// note meanwhile is told before this returns.
+    /// note meanwhile is told before this returns; a listener that calls it only leaves more for
+    /// the call under way. A scene that is gone by then is told as null.
     void notify();
+    /// Whether notify() is under way, so that some listeners may not know yet what others know.
+    bool isNotifying() const;
 
 signals:
     void currentSceneChanged(TUScene* scene);

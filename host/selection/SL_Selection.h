@@ -21,7 +21,7 @@ public:
     class HOST_EXPORT BatchSelectionModeScope
     {
     public:
-        /// A null selection gives a scope that does nothing.
+        /// A null selection gives a scope that does nothing; any other must outlive the scope.
         explicit BatchSelectionModeScope(SL_Selection* selection);
         ~BatchSelectionModeScope();
         BatchSelectionModeScope(const BatchSelectionModeScope&) = delete;
@@ -38,17 +38,21 @@ public:
     SL_Selection& operator=(const SL_Selection&) = delete;
 
     bool empty() const;
+    /// The node selected first; null when there is none.
+    MO_Node* firstNode() const;
     /// In the order of selecting; never null.
     std::vector<MO_Node*> nodes() const;
 
-    /// A null node, or one that is in the selection, is ignored.
+    /// A null node, or one that is in the selection, is ignored. A node that is in another
+    /// selection leaves that one.
     void add(MO_Node* node);
     /// A null node, or one that is not in the selection, is ignored.
     void remove(MO_Node* node);
     void clear();
 
 private:
-    friend class SelectedNode;
+    static void unlink(MO_Node* node);
+
     struct Private;
     std::unique_ptr<Private> d;
 };

@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: MIT
+#include "referencehost/session/HostSession.h"
+
+#include "host/commands/CO_CommandManager.h"
+#include "host/scene/TUSceneChangeManager.h"
+#include "host/selection/SL_Selection.h"
+#include "referencehost/services/ModifierKeyState.h"
+#include "referencehost/session/EditionStack.h"
+
+#include <QTimer>
+#include <QUndoStack>
+
+namespace {
+
+HostSession* currentSession = nullptr;
+
+} // namespace
+
+struct HostSession::Private
+{
+    SC_SessionContext context;
+    ModifierKeyState keyState;
+    // Last, since scenes use the context until they are gone.
+    EditionStack editionStack;
+};
+
+HostSession::HostSession()
+    : d(std::make_unique<Private>())
+{
+    Q_ASSERT_X(!currentSession, "HostSession", "only one session can be open at a time");
+    currentSession = this;
+}
+
+HostSession::~HostSession()
+{
+    closeScene();
+    currentSession = nullptr;
+}
+
+HostSession* HostSession::current()
+{
+    return currentSession;
+}
+
+SC_SessionContext& HostSession::context()
+{
+    return d->context;
+}
+
+PLUG_EditionStackInterface& HostSession::editionStack()
+{
+    return d->editionStack;
+}
+
+PLUG_KeyStateInterface& HostSession::keyState()
+{
+    return d->keyState;
+}
+
+TUScene* HostSession::currentScene() const
+{
+    return d->editionStack.currentScene();
+}
+
+TUScene& HostSession::openScene(const QString& name)
+{
+    auto scene = std::make_unique<TUScene>(name, d->context.changeManager());
+    TUScene& opened = *scene;
+    replaceScene(std::move(scene));
+    return opened;
+}
+
+void HostSession::closeScene()
+{
+    if (currentScene())
+        replaceScene(nullptr);
+}
+
+void HostSession::replaceScene(std::unique_ptr<TUScene> scene)
+{
+    TUSceneChangeManager* changes = d->context.changeManager();
+    d->editionStack.replaceCurrentScene(std::move(scene));
+    changes->emitCurrentSceneChanged(currentScene());
+    d->context.selection()->clear();
+    d->context.commandManager()->history()->clear();
+    changes->notify();
+
+    // Called by a listener, this returns before all others know of the change: one of them may
+    // still hold the old scene, so it is kept until they had their turn.
+    if (changes->isNotifying())
+        QTimer::singleShot(0, changes, [this] { d->editionStack.releaseRetired(); });
+    else
+        d->editionStack.releaseRetired();
+}
