@@ -1,0 +1,115 @@
+// SPDX-License-Identifier: MIT
+
+#include "workbench/BatchRun.h"
+
+#include "host/models/AT_ModelNodeKey.h"
+#include "host/models/TD_CelVq3d.h"
+#include "host/scene/MO_ElementModule.h"
+#include "host/scene/MO_GroupModule.h"
+#include "host/scene/SC_CurrentFrameInterface.h"
+#include "host/scene/SC_SessionContext.h"
+#include "host/scene/TUScene.h"
+#include "host/scene/TUSceneChangeManager.h"
+#include "host/selection/SLB_NodeInterface.h"
+#include "host/selection/SL_Selection.h"
+#include "host/selection/SL_SelectionUtil.h"
+#include "referencehost/session/HostSession.h"
+#include "workbench/SubnodeDump.h"
+#include "workbench/WorkbenchWindow.h"
+
+#include <QApplication>
+#include <QEventLoop>
+#include <QPixmap>
+#include <QSaveFile>
+#include <QTextStream>
+#include <cstdio>
+
+void printError(const QString& message)
+{
+    std::fprintf(stderr, "subnode-workbench: %s\n", qUtf8Printable(message));
+}
+
+BatchRun::BatchRun(const CommandLine& commandLine, HostSession& session, WorkbenchWindow& window)
+    : _commandLine(commandLine)
+    , _session(session)
+    , _window(window)
+{
+}
+
+ExitCode BatchRun::openModels()
+{
+    if (_commandLine.models.isEmpty())
+        return ExitDone;
+    ExitCode code = ExitDone;
+    QEventLoop loop;
+    ModelLoader& loader = _window.loader();
+    QObject::connect(&loader, &ModelLoader::failed, &loop, [&code](const QString& message) {
+        printError(message);
+        code = ExitFileError;
+    });
+    QObject::connect(&loader, &ModelLoader::finished, &loop, &QEventLoop::quit,
+                     Qt::QueuedConnection);
+    loader.load(_commandLine.models);
+    loop.exec();
+    return code;
+}
+
+ExitCode BatchRun::selectSubnodes()
+{
+    if (_commandLine.selectedNames.isEmpty())
+        return ExitDone;
+    SL_Selection* selection = _session.context().selection();
+    MO_Node* node = SL_SelectionUtil::getFirstNode(selection);
+    const auto* element = dynamic_cast<const MO_ElementModule*>(node);
+    if (!element)
+        return ExitFileError;
+
+    ExitCode code = ExitDone;
+    const SL_Selection::BatchSelectionModeScope scope(selection);
+    for (const QString& name : _commandLine.selectedNames) {
+        int id = 0;
+        if (element->getSelIdForNodeKey(AT_ModelNodeKey(name), id)) {
+            node->selInterface()->subSelect(id, true);
+        } else {
+            printError(QApplication::translate("BatchRun", "%1 has no subnode named \"%2\".")
+                           .arg(element->instanceName(), name));
+            code = ExitUsage;
+        }
+    }
+    return code;
+}
+
+ExitCode BatchRun::dump()
+{
+    QTextStream out(stdout);
+    SubnodeDump dump(out, _commandLine.extended);
+    const TUScene* scene = _session.currentScene();
+    const int frame = _session.context().currentFrameInterface()->currentFrame(scene);
+    for (const MO_Node* node : scene->rootGroup()->nodes()) {
+        const auto* element = dynamic_cast<const MO_ElementModule*>(node);
+        const CEL_SharedPtr<TD_CelVq3d> model = element ? element->modelAt(frame) : nullptr;
+        if (model)
+            dump.write(element->instanceName(), model->rootNodePtr());
+    }
+    out.flush();
+    if (std::ferror(stdout) != 0) {
+        printError(QApplication::translate("BatchRun", "Standard output cannot be written."));
+        return ExitFileError;
+    }
+    return ExitDone;
+}
+
+ExitCode BatchRun::takeScreenshot()
+{
+    _window.show();
+    QApplication::processEvents();
+    QSaveFile file(_commandLine.screenshot);
+    // Written beside the file and put in its place at the end: a picture that cannot be finished
+    // leaves the one before as it was.
+    if (!file.open(QIODevice::WriteOnly) || !_window.grab().save(&file, "PNG") || !file.commit()) {
+        printError(QApplication::translate("BatchRun", "%1 cannot be written: %2")
+                       .arg(_commandLine.screenshot, file.errorString()));
+        return ExitFileError;
+    }
+    return ExitDone;
+}

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "workbench/CommandLine.h"
+
+class HostSession;
+class WorkbenchWindow;
+
+/// The exit codes of the program.
+enum ExitCode
+{
+    ExitDone = 0,
+    ExitFileError = 1,
+    ExitUsage = 2
+};
+
+/// Carries out what the command line asks for, in the window that it is given: opens the models,
+/// goes to the frame, selects, prints, takes the picture. Data goes to standard output and one
+/// line for each thing that went wrong to standard error.
+class BatchRun
+{
+public:
+    /// Nothing is owned.
+    BatchRun(const CommandLine& commandLine, HostSession& session, WorkbenchWindow& window);
+
+    /// Blocks until the models are read. A model that cannot be read does not stop the others.
+    ExitCode openModels();
+    ExitCode selectSubnodes();
+    ExitCode dump();
+    ExitCode takeScreenshot();
+
+private:
+    const CommandLine& _commandLine;
+    HostSession& _session;
+    WorkbenchWindow& _window;
+};
+
+/// One line on standard error, with the program's name in front.
+void printError(const QString& message);

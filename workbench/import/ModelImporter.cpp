@@ -1,0 +1,167 @@
+// SPDX-License-Identifier: MIT
+#include "ModelImporter.h"
+
+#include "AssimpReader.h"
+#include "DeepStackThread.h"
+#include "ImportProgress.h"
+#include "OneLine.h"
+#include "SceneConverter.h"
+
+#include <OpenSG/OSGNode.h>
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
+#include <QMap>
+#include <QRegularExpression>
+#include <QStringList>
+#include <assimp/Importer.hpp>
+#include <assimp/importerdesc.h>
+#include <exception>
+#include <new>
+
+namespace {
+
+constexpr double readingEnds = 0.8;
+constexpr int reasonLimit = 200;
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("ModelImporter", text);
+}
+
+ImportResult failure(const QString& path, const QString& reason)
+{
+    ImportResult result;
+    result.error = (path.isEmpty() ? tr("(no file name)") : oneLine(path)) + QLatin1String(": ") +
+                   shortLine(reason, reasonLimit);
+    return result;
+}
+
+ImportResult cancellation(const QString& path)
+{
+    ImportResult result = failure(path, tr("the import was cancelled"));
+    result.cancelled = true;
+    return result;
+}
+
+/// Why the file need not even be handed to a reader; empty if it can be. Readers report these
+/// cases poorly, and opening a pipe would block them.
+QString whyNotReadable(const QString& path)
+{
+    const QFileInfo info(path);
+    if (path.isEmpty())
+        return tr("no file was given");
+    if (!info.exists())
+        return tr("there is no such file");
+    if (info.isDir())
+        return tr("this is a folder, not a file");
+    if (!info.isFile())
+        return tr("this is not a regular file");
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return tr("the file cannot be opened: %1").arg(file.errorString());
+    if (info.size() == 0)
+        return tr("the file is empty");
+    return {};
+}
+
+QString emptyReason()
+{
+    return tr("the file holds no model: it has no nodes and no meshes");
+}
+
+QString readersReason(const AssimpReader& reader)
+{
+    // Some readers are content with a file in which they found nothing at all.
+    if (reader.error().isEmpty())
+        return emptyReason();
+    if (reader.isUnknownKind())
+        return tr("the file is of an unknown kind");
+    if (reader.error().contains(QLatin1String("bad_alloc")))
+        return tr("there is not enough memory to read the file");
+    return tr("the file cannot be read as a model: %1").arg(reader.error());
+}
+
+ImportResult importOnDeepStack(const QString& path, ImportProgress* progress)
+{
+    const auto isCancelled = [progress] { return progress && progress->isCancelled(); };
+    if (isCancelled())
+        return cancellation(path);
+    const QString obstacle = whyNotReadable(path);
+    if (!obstacle.isEmpty())
+        return failure(path, obstacle);
+
+    AssimpReader reader(progress, readingEnds);
+    const bool isRead = reader.read(QFile::encodeName(path).toStdString());
+    if (isCancelled())
+        return cancellation(path);
+    if (!isRead)
+        return failure(path, readersReason(reader));
+    if (SceneConverter::isEmpty(reader))
+        return failure(path, emptyReason());
+
+    SceneConverter converter(reader, progress, readingEnds);
+    ImportResult result;
+    result.root = converter.convert();
+    if (result.root == osg::NullFC)
+        return cancellation(path);
+    result.statistics = converter.statistics();
+    if (progress)
+        progress->report(1.0);
+    return result;
+}
+
+ImportResult importSafely(const QString& path, ImportProgress* progress)
+{
+    try {
+        return importOnDeepStack(path, progress);
+    } catch (const std::bad_alloc&) {
+        return failure(path, tr("there is not enough memory to read the file"));
+    } catch (const std::exception& exception) {
+        return failure(
+            path,
+            tr("the file cannot be read as a model: %1").arg(QString::fromUtf8(exception.what())));
+    } catch (...) {
+        return failure(path, tr("the file cannot be read as a model"));
+    }
+}
+
+} // namespace
+
+ImportResult ModelImporter::importModel(const QString& path, ImportProgress* progress)
+{
+    if (osg::NodeRefPtr(osg::Node::create()) == osg::NullFC)
+        return failure(path, tr("the scene graph has not been started"));
+    ImportResult result;
+    if (!DeepStackThread::runAndWait([&] { result = importSafely(path, progress); }))
+        return failure(path, tr("there is not enough memory to read the file"));
+    return result;
+}
+
+QList<ModelFormat> ModelImporter::supportedFormats()
+{
+    QMap<QString, QStringList> descriptions;
+    const Assimp::Importer importer;
+    for (std::size_t i = 0; i < importer.GetImporterCount(); ++i) {
+        const aiImporterDesc* const reader = importer.GetImporterInfo(i);
+        if (!reader || !reader->mName || !reader->mFileExtensions)
+            continue;
+        QString description = QString::fromUtf8(reader->mName).simplified();
+        // What all of them say tells people nothing, nor does an address.
+        static const QRegularExpression noise(QStringLiteral(" Importer| Reader| \\(http[^)]*\\)"));
+        description.remove(noise);
+        const QString extensions = QString::fromLatin1(reader->mFileExtensions).toLower();
+        for (const QString& extension : extensions.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+            QStringList& known = descriptions[extension];
+            if (!known.contains(description))
+                known.append(description);
+        }
+    }
+    QList<ModelFormat> formats;
+    for (auto it = descriptions.cbegin(); it != descriptions.cend(); ++it) {
+        QStringList sorted = it.value();
+        sorted.sort();
+        formats.append({it.key(), sorted.join(QLatin1String(", "))});
+    }
+    return formats;
+}

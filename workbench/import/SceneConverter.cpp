@@ -1,0 +1,174 @@
+// SPDX-License-Identifier: MIT
+#include "SceneConverter.h"
+
+#include "AssimpReader.h"
+#include "GeometryBuilder.h"
+#include "ImportProgress.h"
+
+#include <OpenSG/OSGGroup.h>
+#include <OpenSG/OSGKeyTransform.h>
+#include <OpenSG/OSGSimpleAttachments.h>
+#include <assimp/scene.h>
+#include <cmath>
+
+namespace {
+
+osg::Matrix toMatrix(const aiMatrix4x4& from)
+{
+    osg::Matrix matrix;
+    for (osg::UInt32 column = 0; column < 4; ++column) {
+        for (osg::UInt32 row = 0; row < 4; ++row) {
+            // One such number would make everything below it vanish.
+            if (!std::isfinite(from[row][column]))
+                return osg::Matrix();
+            matrix[column][row] = from[row][column];
+        }
+    }
+    return matrix;
+}
+
+std::size_t countNodes(const aiNode* root)
+{
+    std::size_t count = 0;
+    std::vector<const aiNode*> pending{root};
+    while (!pending.empty()) {
+        const aiNode* const node = pending.back();
+        pending.pop_back();
+        if (!node)
+            continue;
+        ++count;
+        pending.insert(pending.end(), node->mChildren, node->mChildren + node->mNumChildren);
+    }
+    return count;
+}
+
+} // namespace
+
+SceneConverter::SceneConverter(const AssimpReader& reader, ImportProgress* progress, double begin)
+    : m_reader(reader)
+    , m_progress(progress)
+    , m_begin(begin)
+    , m_roles(reader)
+    , m_geometries(reader.scene()->mNumMeshes)
+{
+}
+
+bool SceneConverter::isEmpty(const AssimpReader& reader)
+{
+    const aiNode& root = *reader.scene()->mRootNode;
+    return root.mNumChildren == 0 && root.mNumMeshes == 0;
+}
+
+osg::NodeRefPtr SceneConverter::convert()
+{
+    const aiNode* const first = m_reader.scene()->mRootNode;
+    const std::size_t known = countNodes(first);
+    osg::NodeRefPtr root;
+    std::vector<Pending> pending{{first, nullptr, osg::NullFC}};
+    for (std::size_t done = 0; !pending.empty(); ++done) {
+        if (!goesOn(done, known))
+            return osg::NodeRefPtr();
+        const Pending next = pending.back();
+        pending.pop_back();
+        if (!next.node)
+            continue;
+        const osg::NodePtr node = makeNode(next);
+        if (next.above)
+            next.above->addChild(node);
+        else
+            root = node;
+        addMeshes(*next.node, node);
+        for (unsigned i = next.node->mNumChildren; i-- > 0;)
+            pending.push_back({next.node->mChildren[i], next.node, node});
+    }
+    giveNames();
+    return root;
+}
+
+osg::NodePtr SceneConverter::makeNode(const Pending& pending)
+{
+    const NodeRole role = m_roles.roleOf(*pending.node, pending.parent);
+    const osg::NodePtr node = osg::makeNodeFor(makeCore(*pending.node, role));
+    std::string name = m_reader.habits().nodeName(*pending.node);
+    if (!name.empty())
+        (role == NodeRole::Key ? m_keyNames : m_otherNames).push_back({node, std::move(name)});
+    return node;
+}
+
+osg::NodeCorePtr SceneConverter::makeCore(const aiNode& node, NodeRole role)
+{
+    if (role == NodeRole::Group) {
+        ++m_statistics.groups;
+        return osg::Group::create();
+    }
+    osg::TransformPtr core;
+    if (role == NodeRole::Key) {
+        ++m_statistics.keyTransforms;
+        core = osg::KeyTransform::create();
+    } else {
+        ++m_statistics.transforms;
+        core = osg::Transform::create();
+    }
+    osg::beginEditCP(core, osg::Transform::MatrixFieldMask);
+    core->setMatrix(toMatrix(node.mTransformation));
+    osg::endEditCP(core, osg::Transform::MatrixFieldMask);
+    return core;
+}
+
+void SceneConverter::addMeshes(const aiNode& node, const osg::NodePtr& below)
+{
+    for (unsigned i = 0; node.mMeshes && i < node.mNumMeshes; ++i) {
+        const unsigned mesh = node.mMeshes[i];
+        const aiScene& scene = *m_reader.scene();
+        if (mesh >= scene.mNumMeshes || !scene.mMeshes[mesh])
+            continue;
+        const osg::NodePtr leaf = osg::makeNodeFor(geometryOf(mesh));
+        ++m_statistics.geometries;
+        below->addChild(leaf);
+        std::string name = m_reader.habits().meshName(*scene.mMeshes[mesh]);
+        if (!name.empty())
+            m_meshNames.push_back({leaf, std::move(name)});
+    }
+}
+
+osg::GeometryPtr SceneConverter::geometryOf(unsigned mesh)
+{
+    osg::GeometryRefPtr& geometry = m_geometries[mesh];
+    if (geometry == osg::NullFC) {
+        const GeometryBuilder builder(*m_reader.scene()->mMeshes[mesh]);
+        geometry = builder.geometry();
+        ++m_statistics.meshes;
+        m_statistics.vertices += builder.vertices();
+        m_statistics.faces += builder.faces();
+    }
+    return geometry;
+}
+
+bool SceneConverter::goesOn(std::size_t done, std::size_t known)
+{
+    constexpr std::size_t stride = 256;
+    if (!m_progress || done % stride != 0)
+        return true;
+    if (m_progress->isCancelled())
+        return false;
+    m_progress->report(m_begin +
+                       (1.0 - m_begin) * static_cast<double>(done) / static_cast<double>(known));
+    return true;
+}
+
+void SceneConverter::giveNames()
+{
+    // Key nodes choose first and meshes last: people know the names of the parts.
+    UniqueNames names;
+    for (const auto* list : {&m_keyNames, &m_otherNames, &m_meshNames}) {
+        for (const Named& named : *list)
+            names.announce(named.name);
+    }
+    for (const auto* list : {&m_keyNames, &m_otherNames, &m_meshNames}) {
+        for (const Named& named : *list) {
+            const std::string name = names.take(named.name);
+            m_statistics.renamed += name != named.name;
+            osg::setName(named.node, name);
+        }
+    }
+}

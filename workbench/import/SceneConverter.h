@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "ImportResult.h"
+#include "NodeRoles.h"
+#include "UniqueNames.h"
+
+#include <OpenSG/OSGGeometry.h>
+#include <OpenSG/OSGNode.h>
+#include <string>
+#include <vector>
+
+struct aiNode;
+class AssimpReader;
+class ImportProgress;
+
+/// Builds the scene graph of one file that a reader has read. It goes through the hierarchy with a
+/// list of what is still to do, so the depth of a file costs no stack here. Used once.
+class SceneConverter
+{
+public:
+    /// The progress may be null; the conversion takes it from the given fraction to 1.
+    SceneConverter(const AssimpReader& reader, ImportProgress* progress, double begin);
+
+    /// The root, with all names unique; NullFC if the import was cancelled.
+    osg::NodeRefPtr convert();
+    const ImportStatistics& statistics() const { return m_statistics; }
+
+    /// Whether the file holds nothing below its root and nothing in it.
+    static bool isEmpty(const AssimpReader& reader);
+
+private:
+    struct Pending
+    {
+        const aiNode* node;
+        const aiNode* parent;
+        osg::NodePtr above;
+    };
+    struct Named
+    {
+        osg::NodePtr node;
+        std::string name;
+    };
+
+    /// NullFC for a node that the reader left out.
+    osg::NodePtr makeNode(const Pending& pending);
+    osg::NodeCorePtr makeCore(const aiNode& node, NodeRole role);
+    void addMeshes(const aiNode& node, const osg::NodePtr& below);
+    osg::GeometryPtr geometryOf(unsigned mesh);
+    bool goesOn(std::size_t done, std::size_t known);
+    void giveNames();
+
+    const AssimpReader& m_reader;
+    ImportProgress* m_progress;
+    double m_begin;
+    NodeRoles m_roles;
+    ImportStatistics m_statistics;
+    std::vector<osg::GeometryRefPtr> m_geometries;
+    std::vector<Named> m_keyNames;
+    std::vector<Named> m_otherNames;
+    std::vector<Named> m_meshNames;
+};
