@@ -6,7 +6,8 @@
 #include <utility>
 
 RatioReporter::RatioReporter(std::vector<Aim> aims)
-    : _aims(std::move(aims))
+    : ConsoleReporter(OO_Tabular)
+    , _aims(std::move(aims))
 {
 }
 

@@ -25,6 +25,7 @@ bool GV_GraphUiInfo::updateGraphUiInfo(const ModelList& models,
             });
         if (kept == _graphs.end()) {
             updated.push_back(newGraphInfo(element, cel, extendedDisplay));
+            rememberSelected(updated.back().rootNode);
             continue;
         }
         if (kept->extendedDisplay != extendedDisplay) {
@@ -72,6 +73,15 @@ GV_GraphUiInfo::GraphInfo GV_GraphUiInfo::newGraphInfo(MO_ElementModule* element
     info.cel = cel;
     info.extendedDisplay = extendedDisplay;
     return info;
+}
+
+void GV_GraphUiInfo::rememberSelected(const GV_UiHeaderNode* header)
+{
+    // An element that comes back, for one because the frame has a drawing for it again, is as
+    // selected as it was when its header went.
+    const auto it = _selectedNodes.find(GV_UiNodeKey(header));
+    if (it != _selectedNodes.end() && !it->second)
+        it->second = header;
 }
 
 void GV_GraphUiInfo::updateHeaderNodesName(std::set<GV_UiHeaderNode*> headers)

@@ -23,11 +23,11 @@ constexpr int noTarget = 0;
 
 int GltfModel::addMaterial(const std::string& name, const Vector& color, double metallic)
 {
-    m_materials.push_back(
+    _materials.push_back(
         joined({"{\"name\":", quoted(name), ",\"pbrMetallicRoughness\":{\"baseColorFactor\":",
                 text(std::array{color[0], color[1], color[2], 1.0}),
                 ",\"metallicFactor\":", text(metallic), ",\"roughnessFactor\":0.5}}"}));
-    return static_cast<int>(m_materials.size()) - 1;
+    return static_cast<int>(_materials.size()) - 1;
 }
 
 int GltfModel::addMesh(const std::string& name, const Mesh& mesh, int material)
@@ -41,25 +41,25 @@ int GltfModel::addMesh(const std::string& name, const Mesh& mesh, int material)
     const int positionsAt = addAccessor(positions, 3, true, vertexTarget);
     const int normalsAt = addAccessor(normals, 3, false, vertexTarget);
     const int indicesAt = addIndices(mesh.indices);
-    m_meshes.push_back(joined(
+    _meshes.push_back(joined(
         {"{\"name\":", quoted(name),
          ",\"primitives\":[{\"attributes\":{\"POSITION\":", std::to_string(positionsAt),
          ",\"NORMAL\":", std::to_string(normalsAt), "},\"indices\":", std::to_string(indicesAt),
          ",\"material\":", std::to_string(material), "}]}"}));
-    return static_cast<int>(m_meshes.size()) - 1;
+    return static_cast<int>(_meshes.size()) - 1;
 }
 
 int GltfModel::addNode(const std::string& name, int parent, const Vector& translation, int mesh)
 {
-    const int node = static_cast<int>(m_nodes.size());
-    m_nodes.push_back({name, translation, {0, 0, 0, 1}, mesh, {}});
-    (parent == none ? m_roots : m_nodes[parent].children).push_back(node);
+    const int node = static_cast<int>(_nodes.size());
+    _nodes.push_back({name, translation, {0, 0, 0, 1}, mesh, {}});
+    (parent == none ? _roots : _nodes[parent].children).push_back(node);
     return node;
 }
 
 void GltfModel::setRotation(int node, const Quaternion& rotation)
 {
-    m_nodes[node].rotation = rotation;
+    _nodes[node].rotation = rotation;
 }
 
 void GltfModel::animateRotation(int node, const std::vector<double>& times,
@@ -69,7 +69,7 @@ void GltfModel::animateRotation(int node, const std::vector<double>& times,
     for (const Quaternion& rotation : rotations)
         values.insert(values.end(), rotation.begin(), rotation.end());
     const int input = addAccessor(times, 1, true, noTarget);
-    m_channels.push_back({node, "rotation", input, addAccessor(values, 4, false, noTarget)});
+    _channels.push_back({node, "rotation", input, addAccessor(values, 4, false, noTarget)});
 }
 
 void GltfModel::animateTranslation(int node, const std::vector<double>& times,
@@ -79,17 +79,17 @@ void GltfModel::animateTranslation(int node, const std::vector<double>& times,
     for (const Vector& translation : translations)
         values.insert(values.end(), translation.begin(), translation.end());
     const int input = addAccessor(times, 1, true, noTarget);
-    m_channels.push_back({node, "translation", input, addAccessor(values, 3, false, noTarget)});
+    _channels.push_back({node, "translation", input, addAccessor(values, 3, false, noTarget)});
 }
 
 int GltfModel::addAccessor(const std::vector<double>& values, int components, bool bounds,
                            int target)
 {
-    const std::size_t start = m_buffer.size();
+    const std::size_t start = _buffer.size();
     for (const double value : values) {
         const auto bits = std::bit_cast<std::uint32_t>(rounded(value));
         for (int shift = 0; shift < 32; shift += 8)
-            m_buffer.push_back(static_cast<std::uint8_t>(bits >> shift));
+            _buffer.push_back(static_cast<std::uint8_t>(bits >> shift));
     }
     static constexpr const char* types[] = {"", "SCALAR", "VEC2", "VEC3", "VEC4"};
     std::string rest = joined({",\"componentType\":", std::to_string(floatType),
@@ -114,10 +114,10 @@ int GltfModel::addAccessor(const std::vector<double>& values, int components, bo
 
 int GltfModel::addIndices(const std::vector<std::uint16_t>& indices)
 {
-    const std::size_t start = m_buffer.size();
+    const std::size_t start = _buffer.size();
     for (const std::uint16_t index : indices) {
-        m_buffer.push_back(static_cast<std::uint8_t>(index));
-        m_buffer.push_back(static_cast<std::uint8_t>(index >> 8));
+        _buffer.push_back(static_cast<std::uint8_t>(index));
+        _buffer.push_back(static_cast<std::uint8_t>(index >> 8));
     }
     const std::string rest =
         joined({",\"componentType\":", std::to_string(unsignedShortType), ",\"type\":\"SCALAR\""});
@@ -127,15 +127,15 @@ int GltfModel::addIndices(const std::vector<std::uint16_t>& indices)
 int GltfModel::finishAccessor(std::size_t start, std::size_t count, const std::string& rest,
                               int target)
 {
-    const std::string length = std::to_string(m_buffer.size() - start);
+    const std::string length = std::to_string(_buffer.size() - start);
     // The format wants every accessor to begin at a multiple of its component's size.
-    m_buffer.resize((m_buffer.size() + 3) / 4 * 4);
-    m_views.push_back(
+    _buffer.resize((_buffer.size() + 3) / 4 * 4);
+    _views.push_back(
         joined({"{\"buffer\":0,\"byteOffset\":", std::to_string(start), ",\"byteLength\":", length,
                 target ? joined({",\"target\":", std::to_string(target)}) : "", "}"}));
-    m_accessors.push_back(joined({"{\"bufferView\":", std::to_string(m_views.size() - 1),
-                                  ",\"count\":", std::to_string(count), rest, "}"}));
-    return static_cast<int>(m_accessors.size()) - 1;
+    _accessors.push_back(joined({"{\"bufferView\":", std::to_string(_views.size() - 1),
+                                 ",\"count\":", std::to_string(count), rest, "}"}));
+    return static_cast<int>(_accessors.size()) - 1;
 }
 
 std::string GltfModel::nodeText(const Node& node) const
@@ -155,17 +155,17 @@ std::string GltfModel::nodeText(const Node& node) const
 std::string GltfModel::toText(const std::string& animationName) const
 {
     std::vector<std::string> nodes;
-    for (const Node& node : m_nodes)
+    for (const Node& node : _nodes)
         nodes.push_back(nodeText(node));
     std::string all =
         joined({"{\n\"asset\":{\"version\":\"2.0\",\"generator\":\"make-sample-models\"},\n",
-                "\"scene\":0,\n\"scenes\":[{\"nodes\":", numbers(m_roots), "}],\n"});
-    all += joined({list("nodes", nodes), ",\n", list("meshes", m_meshes), ",\n",
-                   list("materials", m_materials), ",\n"});
-    if (!m_channels.empty()) {
+                "\"scene\":0,\n\"scenes\":[{\"nodes\":", numbers(_roots), "}],\n"});
+    all += joined({list("nodes", nodes), ",\n", list("meshes", _meshes), ",\n",
+                   list("materials", _materials), ",\n"});
+    if (!_channels.empty()) {
         std::vector<std::string> channels;
         std::vector<std::string> samplers;
-        for (const Channel& channel : m_channels) {
+        for (const Channel& channel : _channels) {
             channels.push_back(joined({"{\"sampler\":", std::to_string(samplers.size()),
                                        ",\"target\":{\"node\":", std::to_string(channel.node),
                                        ",\"path\":", quoted(channel.path), "}}"}));
@@ -176,9 +176,9 @@ std::string GltfModel::toText(const std::string& animationName) const
         all += joined({"\"animations\":[{\"name\":", quoted(animationName), ",\n",
                        list("channels", channels), ",\n", list("samplers", samplers), "}],\n"});
     }
-    all += joined({list("accessors", m_accessors), ",\n", list("bufferViews", m_views), ",\n"});
-    return joined({all, "\"buffers\":[{\"byteLength\":", std::to_string(m_buffer.size()),
-                   ",\"uri\":\"data:application/octet-stream;base64,", base64(m_buffer),
+    all += joined({list("accessors", _accessors), ",\n", list("bufferViews", _views), ",\n"});
+    return joined({all, "\"buffers\":[{\"byteLength\":", std::to_string(_buffer.size()),
+                   ",\"uri\":\"data:application/octet-stream;base64,", base64(_buffer),
                    "\"}]\n}\n"});
 }
 

@@ -67,12 +67,12 @@ private:
     int finishAccessor(std::size_t start, std::size_t count, const std::string& rest, int target);
     std::string nodeText(const Node& node) const;
 
-    std::vector<Node> m_nodes;
-    std::vector<int> m_roots;
-    std::vector<std::string> m_meshes;
-    std::vector<std::string> m_materials;
-    std::vector<std::string> m_accessors;
-    std::vector<std::string> m_views;
-    std::vector<Channel> m_channels;
-    std::vector<std::uint8_t> m_buffer;
+    std::vector<Node> _nodes;
+    std::vector<int> _roots;
+    std::vector<std::string> _meshes;
+    std::vector<std::string> _materials;
+    std::vector<std::string> _accessors;
+    std::vector<std::string> _views;
+    std::vector<Channel> _channels;
+    std::vector<std::uint8_t> _buffer;
 };

@@ -169,10 +169,26 @@ void selectByName(State& state, Shape shape)
     std::vector<QString> names(1024);
     for (QString& name : names)
         name = collector.names[1 + random() % (collector.names.size() - 1)];
+    // The first look-up after a build makes the index; name_index measures that.
+    model.uiInfo.setFirstNodeWithNameSelected(names.front());
     std::size_t next = 0;
     for (auto _ : state) {
         model.uiInfo.setFirstNodeWithNameSelected(names[next++ % names.size()]);
         model.uiInfo.clearSelection(false);
+    }
+    state.SetComplexityN(nodes);
+}
+
+void nameIndex(State& state, Shape shape)
+{
+    const auto nodes = static_cast<int>(state.range(0));
+    ShownModel model(shape, nodes);
+    model.show(true);
+    GV_UiNode* root = model.uiInfo.rootUiNode();
+    for (auto _ : state) {
+        // Any change of a name makes the index out of date.
+        root->setNames(root->name(), root->displayName());
+        model.uiInfo.setFirstNodeWithNameSelected(QStringLiteral("no such name"));
     }
     state.SetComplexityN(nodes);
 }
@@ -268,6 +284,7 @@ void registerAll()
     registerFor("layout", benchmark::oN, layout);
     registerFor("hit_test", benchmark::o1, hitTest);
     registerFor("select_by_name", benchmark::o1, selectByName);
+    registerFor("name_index", benchmark::oN, nameIndex);
     registerFor("frame_zoom1", benchmark::o1,
                 [](State& state, Shape shape) { frameZoom1(state, shape, false); });
     registerFor("frame_zoom1_deep", benchmark::o1,

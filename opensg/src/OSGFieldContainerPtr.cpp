@@ -11,12 +11,12 @@ bool FieldContainerPtr::hasType(const FieldContainerPtr& pointer, const FieldCon
 void addRefCP(const FieldContainerPtr& pointer)
 {
     if (pointer)
-        ++pointer->m_references;
+        ++pointer->_references;
 }
 
 void subRefCP(const FieldContainerPtr& pointer)
 {
-    if (pointer && --pointer->m_references <= 0)
+    if (pointer && --pointer->_references <= 0)
         FieldContainer::destroy(pointer.getCPtr());
 }
 

@@ -6,8 +6,8 @@
 namespace osg {
 
 FieldContainerType::FieldContainerType(const Char8* name, const Char8* parentName)
-    : m_name(name)
-    , m_parentName(parentName)
+    : _name(name)
+    , _parentName(parentName)
 {
     TypeRegistry::add(*this);
 }

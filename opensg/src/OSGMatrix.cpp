@@ -28,8 +28,8 @@ Matrix::Matrix()
 Matrix::Matrix(Real32 v00, Real32 v10, Real32 v20, Real32 v30, Real32 v01, Real32 v11, Real32 v21,
                Real32 v31, Real32 v02, Real32 v12, Real32 v22, Real32 v32, Real32 v03, Real32 v13,
                Real32 v23, Real32 v33)
-    : m_columns{Vec4f(v00, v01, v02, v03), Vec4f(v10, v11, v12, v13), Vec4f(v20, v21, v22, v23),
-                Vec4f(v30, v31, v32, v33)}
+    : _columns{Vec4f(v00, v01, v02, v03), Vec4f(v10, v11, v12, v13), Vec4f(v20, v21, v22, v23),
+               Vec4f(v30, v31, v32, v33)}
 {
 }
 
@@ -37,7 +37,7 @@ void Matrix::setIdentity()
 {
     for (UInt32 column = 0; column < 4; ++column) {
         for (UInt32 row = 0; row < 4; ++row)
-            m_columns[column][row] = column == row ? 1.0f : 0.0f;
+            _columns[column][row] = column == row ? 1.0f : 0.0f;
     }
 }
 
@@ -45,20 +45,20 @@ void Matrix::setValue(const Real32* values)
 {
     for (UInt32 column = 0; column < 4; ++column) {
         for (UInt32 row = 0; row < 4; ++row)
-            m_columns[column][row] = values[4 * column + row];
+            _columns[column][row] = values[4 * column + row];
     }
 }
 
 void Matrix::setTranslate(Real32 x, Real32 y, Real32 z)
 {
-    m_columns[3] = Vec4f(x, y, z, m_columns[3].w());
+    _columns[3] = Vec4f(x, y, z, _columns[3].w());
 }
 
 void Matrix::setScale(Real32 x, Real32 y, Real32 z)
 {
-    m_columns[0][0] = x;
-    m_columns[1][1] = y;
-    m_columns[2][2] = z;
+    _columns[0][0] = x;
+    _columns[1][1] = y;
+    _columns[2][2] = z;
 }
 
 void Matrix::mult(const Matrix& right)
@@ -99,7 +99,7 @@ void Matrix::multMatrixVec(const Vec3f& source, Vec3f& target) const
 
 bool Matrix::operator==(const Matrix& other) const
 {
-    return std::equal(m_columns, m_columns + 4, other.m_columns);
+    return std::equal(_columns, _columns + 4, other._columns);
 }
 
 } // namespace osg

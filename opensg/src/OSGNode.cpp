@@ -34,19 +34,19 @@ Node::~Node()
     // Reached below a parent only after one reference too many was given back; even then no parent
     // may be left with a dead child.
     leaveParent();
-    for (const NodePtr& child : m_children) {
-        child->m_parent = NullFC;
+    for (const NodePtr& child : _children) {
+        child->_parent = NullFC;
         subRefCP(child);
     }
 }
 
 bool Node::leaveParent()
 {
-    if (!m_parent)
+    if (!_parent)
         return false;
-    std::vector<NodePtr>& siblings = m_parent->m_children;
+    std::vector<NodePtr>& siblings = _parent->_children;
     siblings.erase(std::find(siblings.begin(), siblings.end(), NodePtr(this)));
-    m_parent = NullFC;
+    _parent = NullFC;
     return true;
 }
 
@@ -55,15 +55,15 @@ void Node::adopt(const NodePtr& child)
     // The reference of an old parent becomes ours, so the child cannot die on the way.
     if (!child->leaveParent())
         addRefCP(child);
-    child->m_parent = NodePtr(this);
+    child->_parent = NodePtr(this);
 }
 
 Int32 Node::findChild(const NodePtr& child) const
 {
-    if (!child || child->m_parent.getCPtr() != this)
+    if (!child || child->_parent.getCPtr() != this)
         return -1;
-    const auto found = std::find(m_children.begin(), m_children.end(), child);
-    return static_cast<Int32>(found - m_children.begin());
+    const auto found = std::find(_children.begin(), _children.end(), child);
+    return static_cast<Int32>(found - _children.begin());
 }
 
 void Node::addChild(const NodePtr& child)
@@ -71,7 +71,7 @@ void Node::addChild(const NodePtr& child)
     if (!child)
         return;
     adopt(child);
-    m_children.push_back(child);
+    _children.push_back(child);
 }
 
 void Node::insertChild(UInt32 index, const NodePtr& child)
@@ -79,7 +79,7 @@ void Node::insertChild(UInt32 index, const NodePtr& child)
     if (!child)
         return;
     adopt(child);
-    m_children.insert(m_children.begin() + std::min(index, getNChildren()), child);
+    _children.insert(_children.begin() + std::min(index, getNChildren()), child);
 }
 
 void Node::replaceChild(UInt32 index, const NodePtr& child)
@@ -95,8 +95,8 @@ bool Node::replaceChildBy(const NodePtr& oldChild, const NodePtr& newChild)
     if (oldChild == newChild)
         return true;
     adopt(newChild);
-    m_children[findChild(oldChild)] = newChild;
-    oldChild->m_parent = NullFC;
+    _children[findChild(oldChild)] = newChild;
+    oldChild->_parent = NullFC;
     subRefCP(oldChild);
     return true;
 }
@@ -112,15 +112,15 @@ void Node::subChild(UInt32 index)
 {
     if (index >= getNChildren())
         return;
-    const NodePtr child = m_children[index];
-    m_children.erase(m_children.begin() + index);
-    child->m_parent = NullFC;
+    const NodePtr child = _children[index];
+    _children.erase(_children.begin() + index);
+    child->_parent = NullFC;
     subRefCP(child);
 }
 
 void Node::setCore(const NodeCorePtr& core)
 {
-    m_core = core;
+    _core = core;
 }
 
 } // namespace osg

@@ -7,7 +7,7 @@ namespace osg {
 
 struct NameAttachment
 {
-    static std::unique_ptr<Char8[]>& of(AttachmentContainer& container) { return container.m_name; }
+    static std::unique_ptr<Char8[]>& of(AttachmentContainer& container) { return container._name; }
 };
 
 const Char8* getName(AttachmentContainerPtr container)

@@ -12,7 +12,7 @@ constinit bool started = false;
 
 void TypeRegistry::add(FieldContainerType& type)
 {
-    type.m_nextRegistered = first;
+    type._nextRegistered = first;
     first = &type;
     // A library that is loaded late brings types whose parents may follow them.
     if (started)
@@ -24,24 +24,24 @@ void TypeRegistry::remove(FieldContainerType& type)
     FieldContainerType** link = &first;
     while (*link) {
         FieldContainerType* const other = *link;
-        if (other->m_parent == &type)
-            other->m_parent = nullptr;
+        if (other->_parent == &type)
+            other->_parent = nullptr;
         if (other == &type)
-            *link = other->m_nextRegistered;
+            *link = other->_nextRegistered;
         else
-            link = &other->m_nextRegistered;
+            link = &other->_nextRegistered;
     }
 }
 
 void TypeRegistry::start()
 {
     started = true;
-    for (FieldContainerType* type = first; type; type = type->m_nextRegistered) {
-        FieldContainerType* parent = type->m_parent ? nullptr : first;
-        while (parent && !(parent->m_name == type->m_parentName))
-            parent = parent->m_nextRegistered;
+    for (FieldContainerType* type = first; type; type = type->_nextRegistered) {
+        FieldContainerType* parent = type->_parent ? nullptr : first;
+        while (parent && !(parent->_name == type->_parentName))
+            parent = parent->_nextRegistered;
         if (parent)
-            type->m_parent = parent;
+            type->_parent = parent;
     }
 }
 

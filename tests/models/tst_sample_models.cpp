@@ -15,8 +15,8 @@ class tst_sample_models : public QObject
     Q_OBJECT
 
 private:
-    ImportResult m_robot;
-    ImportResult m_crane;
+    ImportResult _robot;
+    ImportResult _crane;
 
     static QList<osg::NodePtr> nodes(const ImportResult& model)
     {
@@ -45,25 +45,25 @@ private slots:
     void initTestCase()
     {
         QVERIFY(osg::osgInit(0, nullptr));
-        m_robot = ModelImporter::importModel(SAMPLE_MODELS "/robot.gltf");
-        m_crane = ModelImporter::importModel(SAMPLE_MODELS "/crane.gltf");
-        QCOMPARE(m_robot.error, QString());
-        QCOMPARE(m_crane.error, QString());
+        _robot = ModelImporter::importModel(SAMPLE_MODELS "/robot.gltf");
+        _crane = ModelImporter::importModel(SAMPLE_MODELS "/crane.gltf");
+        QCOMPARE(_robot.error, QString());
+        QCOMPARE(_crane.error, QString());
     }
     void init() { QTest::failOnWarning(QRegularExpression(".*")); }
     void cleanupTestCase()
     {
-        m_robot = ImportResult();
-        m_crane = ImportResult();
+        _robot = ImportResult();
+        _crane = ImportResult();
     }
 
     void the_robot_has_some_forty_parts_and_groups_between_them()
     {
-        QCOMPARE(m_robot.statistics.keyTransforms, 41);
-        QCOMPARE(m_robot.statistics.transforms, 0);
-        QCOMPARE(m_robot.statistics.renamed, 0);
+        QCOMPARE(_robot.statistics.keyTransforms, 41);
+        QCOMPARE(_robot.statistics.transforms, 0);
+        QCOMPARE(_robot.statistics.renamed, 0);
         for (const char* group : {"UpperBody", "LeftLeg", "LeftArm", "RightHandFingers", "Face"}) {
-            const osg::NodePtr node = find(m_robot, group);
+            const osg::NodePtr node = find(_robot, group);
             QVERIFY2(node != osg::NullFC, group);
             QVERIFY2(!isKey(node) && isKey(node->getChild(0)), group);
         }
@@ -75,23 +75,23 @@ private slots:
         font.setStyleHint(QFont::TypeWriter);
         const QFontMetrics metrics(font);
         int longNames = 0;
-        for (const osg::NodePtr& node : nodes(m_robot))
+        for (const osg::NodePtr& node : nodes(_robot))
             longNames += isKey(node) && metrics.horizontalAdvance(osg::getName(node)) > 124;
         QVERIFY(longNames >= 3);
     }
 
     void what_is_animated_is_a_key()
     {
-        QVERIFY(isKey(find(m_crane, "LeftWingDrive")));
-        QVERIFY(isKey(find(m_crane, "RightWingDrive")));
-        QVERIFY(!isKey(find(m_crane, "Beak")));
-        QVERIFY(m_crane.statistics.keyTransforms > 20);
+        QVERIFY(isKey(find(_crane, "LeftWingDrive")));
+        QVERIFY(isKey(find(_crane, "RightWingDrive")));
+        QVERIFY(!isKey(find(_crane, "Beak")));
+        QVERIFY(_crane.statistics.keyTransforms > 20);
     }
 
     void faces_look_outwards()
     {
-        QList<osg::NodePtr> all = nodes(m_robot);
-        all += nodes(m_crane);
+        QList<osg::NodePtr> all = nodes(_robot);
+        all += nodes(_crane);
         int checked = 0;
         for (const osg::NodePtr& node : all) {
             const osg::GeometryPtr geometry = osg::GeometryPtr::dcast(node->getCore());

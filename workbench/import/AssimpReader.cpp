@@ -44,8 +44,8 @@ bool lacksName(const FormatHabits& habits, aiNode* root)
 } // namespace
 
 AssimpReader::AssimpReader(ImportProgress* progress, double end)
-    : m_progress(progress)
-    , m_importer(makeImporter(end))
+    : _progress(progress)
+    , _importer(makeImporter(end))
 {
 }
 
@@ -56,7 +56,7 @@ std::unique_ptr<Assimp::Importer> AssimpReader::makeImporter(double end) const
     auto importer = std::make_unique<Assimp::Importer>();
     // The importer owns both.
     importer->SetIOHandler(new ImportFileSystem);
-    importer->SetProgressHandler(new ImportProgressHandler(m_progress, end));
+    importer->SetProgressHandler(new ImportProgressHandler(_progress, end));
     // A file without meshes would otherwise get made-up ones in the shape of its skeleton.
     importer->SetPropertyBool(AI_CONFIG_IMPORT_NO_SKELETON_MESHES, true);
     importer->SetPropertyBool(AI_CONFIG_IMPORT_COLLADA_USE_COLLADA_NAMES, true);
@@ -65,22 +65,22 @@ std::unique_ptr<Assimp::Importer> AssimpReader::makeImporter(double end) const
 
 bool AssimpReader::read(const std::string& path)
 {
-    m_scene = m_importer->ReadFile(path, steps);
-    if (!m_scene || !m_scene->mRootNode) {
-        m_scene = nullptr;
+    _scene = _importer->ReadFile(path, steps);
+    if (!_scene || !_scene->mRootNode) {
+        _scene = nullptr;
         return false;
     }
-    const int index = m_importer->GetPropertyInteger("importerIndex", -1);
-    m_habits = FormatHabits(index < 0 ? nullptr : m_importer->GetImporterInfo(index), path);
-    collectMovedNames(*m_scene);
-    if (m_habits.isCollada() && lacksName(m_habits, m_scene->mRootNode))
+    const int index = _importer->GetPropertyInteger("importerIndex", -1);
+    _habits = FormatHabits(index < 0 ? nullptr : _importer->GetImporterInfo(index), path);
+    collectMovedNames(*_scene);
+    if (_habits.isCollada() && lacksName(_habits, _scene->mRootNode))
         completeColladaNames(path);
     return true;
 }
 
 QString AssimpReader::error() const
 {
-    return QString::fromUtf8(m_importer->GetErrorString());
+    return QString::fromUtf8(_importer->GetErrorString());
 }
 
 bool AssimpReader::isUnknownKind() const
@@ -90,7 +90,7 @@ bool AssimpReader::isUnknownKind() const
 
 void AssimpReader::collectMovedNames(const aiScene& scene)
 {
-    const auto add = [this](const aiString& name) { m_movedNames.emplace(name.data, name.length); };
+    const auto add = [this](const aiString& name) { _movedNames.emplace(name.data, name.length); };
     for (unsigned i = 0; i < scene.mNumAnimations; ++i) {
         const aiAnimation* const animation = scene.mAnimations[i];
         for (unsigned j = 0; animation && j < animation->mNumChannels; ++j) {
@@ -117,11 +117,11 @@ void AssimpReader::completeColladaNames(const std::string& path)
     if (!byIdentifier || !byIdentifier->mRootNode)
         return;
     collectMovedNames(*byIdentifier);
-    std::vector<NodePair> pending{{m_scene->mRootNode, byIdentifier->mRootNode}};
+    std::vector<NodePair> pending{{_scene->mRootNode, byIdentifier->mRootNode}};
     while (!pending.empty()) {
         const NodePair nodes = pending.back();
         pending.pop_back();
-        if (m_habits.nodeName(*nodes.first).empty())
+        if (_habits.nodeName(*nodes.first).empty())
             nodes.first->mName = nodes.second->mName;
         if (nodes.first->mNumChildren == nodes.second->mNumChildren)
             addChildren(pending, nodes);

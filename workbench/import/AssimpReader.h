@@ -34,19 +34,19 @@ public:
     bool isUnknownKind() const;
 
     /// Null before a successful read().
-    const aiScene* scene() const { return m_scene; }
-    const FormatHabits& habits() const { return m_habits; }
+    const aiScene* scene() const { return _scene; }
+    const FormatHabits& habits() const { return _habits; }
     /// The names that animations and bones refer to, as Assimp has them.
-    const std::unordered_set<std::string>& movedNames() const { return m_movedNames; }
+    const std::unordered_set<std::string>& movedNames() const { return _movedNames; }
 
 private:
     std::unique_ptr<Assimp::Importer> makeImporter(double end) const;
     void collectMovedNames(const aiScene& scene);
     void completeColladaNames(const std::string& path);
 
-    ImportProgress* m_progress;
-    std::unique_ptr<Assimp::Importer> m_importer;
-    const aiScene* m_scene = nullptr;
-    FormatHabits m_habits;
-    std::unordered_set<std::string> m_movedNames;
+    ImportProgress* _progress;
+    std::unique_ptr<Assimp::Importer> _importer;
+    const aiScene* _scene = nullptr;
+    FormatHabits _habits;
+    std::unordered_set<std::string> _movedNames;
 };

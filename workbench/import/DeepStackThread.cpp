@@ -8,7 +8,7 @@ constexpr uint deepStack = 512U * 1024 * 1024;
 } // namespace
 
 DeepStackThread::DeepStackThread(std::function<void()> work)
-    : m_work(std::move(work))
+    : _work(std::move(work))
 {
     setStackSize(deepStack);
 }
@@ -31,5 +31,5 @@ bool DeepStackThread::runAndWait(const std::function<void()>& work)
 
 void DeepStackThread::run()
 {
-    m_work();
+    _work();
 }

@@ -19,5 +19,5 @@ protected:
     void run() override;
 
 private:
-    std::function<void()> m_work;
+    std::function<void()> _work;
 };

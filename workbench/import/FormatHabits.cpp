@@ -55,29 +55,29 @@ bool reads(const aiImporterDesc& reader, const std::string& extension)
 } // namespace
 
 FormatHabits::FormatHabits(const aiImporterDesc* reader, std::string path)
-    : m_path(std::move(path))
+    : _path(std::move(path))
 {
     if (!reader || !reader->mFileExtensions || !reader->mName)
         return;
     if (reads(*reader, "dae"))
-        m_family = Family::Collada;
+        _family = Family::Collada;
     else if (reads(*reader, "fbx"))
-        m_family = Family::Fbx;
+        _family = Family::Fbx;
     else if (reads(*reader, "ifc"))
-        m_family = Family::Ifc;
+        _family = Family::Ifc;
     else if (reads(*reader, "gltf") && startsWith(reader->mName, "glTF2"))
-        m_family = Family::Gltf2;
+        _family = Family::Gltf2;
 }
 
 std::string FormatHabits::nodeName(const aiNode& node) const
 {
     std::string name = bytes(node.mName);
-    if (m_family == Family::Gltf2 && isIndexed(name, "nodes"))
+    if (_family == Family::Gltf2 && isIndexed(name, "nodes"))
         return {};
-    if (m_family == Family::Collada && startsWith(name, "$ColladaAutoName$"))
+    if (_family == Family::Collada && startsWith(name, "$ColladaAutoName$"))
         return {};
     // Some readers name the root by the whole path; where a file lies is no part of the model.
-    if (!m_path.empty() && name == m_path)
+    if (!_path.empty() && name == _path)
         return name.substr(name.rfind('/') + 1);
     return name;
 }
@@ -85,7 +85,7 @@ std::string FormatHabits::nodeName(const aiNode& node) const
 std::string FormatHabits::meshName(const aiMesh& mesh) const
 {
     std::string name = bytes(mesh.mName);
-    if (m_family == Family::Gltf2 && isIndexed(name, "meshes"))
+    if (_family == Family::Gltf2 && isIndexed(name, "meshes"))
         return {};
     return name;
 }
@@ -93,12 +93,12 @@ std::string FormatHabits::meshName(const aiMesh& mesh) const
 bool FormatHabits::isHelper(const std::string& name) const
 {
     // The identifiers of IFC are written with 64 characters, of which the dollar is one.
-    return m_family != Family::Ifc && name.find('$') != std::string::npos;
+    return _family != Family::Ifc && name.find('$') != std::string::npos;
 }
 
 bool FormatHabits::isAddedRoot(const std::string& rootName) const
 {
-    switch (m_family) {
+    switch (_family) {
     case Family::Collada:
         return true;
     case Family::Fbx:

@@ -16,7 +16,7 @@ public:
     /// The description may be null. The path is the one that the reader was given.
     FormatHabits(const aiImporterDesc* reader, std::string path);
 
-    bool isCollada() const { return m_family == Family::Collada; }
+    bool isCollada() const { return _family == Family::Collada; }
 
     /// The name that the file gives the node; empty if it gives none.
     std::string nodeName(const aiNode& node) const;
@@ -37,6 +37,6 @@ private:
         Ifc
     };
 
-    Family m_family = Family::Other;
-    std::string m_path;
+    Family _family = Family::Other;
+    std::string _path;
 };

@@ -47,6 +47,8 @@ bool isUsable(const aiFace& face, unsigned vertices)
 std::vector<aiVector3D> normalsFromFaces(const aiMesh& mesh, unsigned vertices)
 {
     std::vector<aiVector3D> normals(vertices);
+    if (!mesh.mVertices)
+        return normals;
     for (unsigned i = 0; mesh.mFaces && i < mesh.mNumFaces; ++i) {
         const aiFace& face = mesh.mFaces[i];
         if (face.mNumIndices < 3 || !isUsable(face, vertices))
@@ -71,10 +73,10 @@ std::vector<aiVector3D> normalsFromFaces(const aiMesh& mesh, unsigned vertices)
 } // namespace
 
 GeometryBuilder::GeometryBuilder(const aiMesh& mesh)
-    : m_geometry(osg::Geometry::create())
-    , m_vertices(mesh.mVertices ? mesh.mNumVertices : 0)
+    : _geometry(osg::Geometry::create())
+    , _vertices(mesh.mVertices ? mesh.mNumVertices : 0)
 {
-    const osg::GeometryPtr core = m_geometry;
+    const osg::GeometryPtr core = _geometry;
     osg::beginEditCP(core);
     addVertices(mesh);
     addNormals(mesh);
@@ -87,9 +89,9 @@ void GeometryBuilder::addFaces(const aiMesh& mesh)
     const osg::GeoPTypesPtr types = osg::GeoPTypesUI8::create();
     const osg::GeoPLengthsPtr lengths = osg::GeoPLengthsUI32::create();
     const osg::GeoIndicesPtr indices = osg::GeoIndicesUI32::create();
-    m_geometry->setTypes(types);
-    m_geometry->setLengths(lengths);
-    m_geometry->setIndices(indices);
+    _geometry->setTypes(types);
+    _geometry->setLengths(lengths);
+    _geometry->setIndices(indices);
 
     // Faces of one kind in a row make one primitive, polygons one each.
     osg::UInt32 current = polygon;
@@ -103,7 +105,7 @@ void GeometryBuilder::addFaces(const aiMesh& mesh)
     };
     for (unsigned i = 0; mesh.mFaces && i < mesh.mNumFaces; ++i) {
         const aiFace& face = mesh.mFaces[i];
-        if (!isUsable(face, m_vertices))
+        if (!isUsable(face, _vertices))
             continue;
         const osg::UInt32 primitive = primitiveOf(face.mNumIndices);
         if (primitive != current || primitive == polygon)
@@ -112,7 +114,7 @@ void GeometryBuilder::addFaces(const aiMesh& mesh)
         length += face.mNumIndices;
         for (unsigned j = 0; j < face.mNumIndices; ++j)
             indices->push_back(face.mIndices[j]);
-        ++m_faces;
+        ++_faces;
     }
     finish();
 }
@@ -120,9 +122,9 @@ void GeometryBuilder::addFaces(const aiMesh& mesh)
 void GeometryBuilder::addVertices(const aiMesh& mesh)
 {
     const osg::GeoPositionsPtr positions = osg::GeoPositions3f::create();
-    m_geometry->setPositions(positions);
-    positions->resize(m_vertices);
-    for (osg::UInt32 i = 0; i < m_vertices; ++i) {
+    _geometry->setPositions(positions);
+    positions->resize(_vertices);
+    for (osg::UInt32 i = 0; i < _vertices; ++i) {
         const aiVector3D& at = mesh.mVertices[i];
         positions->setValue(osg::Pnt3f(finite(at.x), finite(at.y), finite(at.z)), i);
     }
@@ -131,12 +133,12 @@ void GeometryBuilder::addVertices(const aiMesh& mesh)
 void GeometryBuilder::addNormals(const aiMesh& mesh)
 {
     const osg::GeoNormalsPtr normals = osg::GeoNormals3f::create();
-    m_geometry->setNormals(normals);
-    normals->resize(m_vertices);
+    _geometry->setNormals(normals);
+    normals->resize(_vertices);
     std::vector<aiVector3D> made;
     if (!mesh.mNormals)
-        made = normalsFromFaces(mesh, m_vertices);
+        made = normalsFromFaces(mesh, _vertices);
     const aiVector3D* const all = mesh.mNormals ? mesh.mNormals : made.data();
-    for (osg::UInt32 i = 0; i < m_vertices; ++i)
+    for (osg::UInt32 i = 0; i < _vertices; ++i)
         normals->setValue(osg::Vec3f(finite(all[i].x), finite(all[i].y), finite(all[i].z)), i);
 }

@@ -16,16 +16,16 @@ public:
     explicit GeometryBuilder(const aiMesh& mesh);
 
     /// The core, whose reference the builder holds while it lives.
-    osg::GeometryPtr geometry() const { return m_geometry; }
-    qint64 vertices() const { return m_vertices; }
-    qint64 faces() const { return m_faces; }
+    osg::GeometryPtr geometry() const { return _geometry; }
+    qint64 vertices() const { return _vertices; }
+    qint64 faces() const { return _faces; }
 
 private:
     void addFaces(const aiMesh& mesh);
     void addVertices(const aiMesh& mesh);
     void addNormals(const aiMesh& mesh);
 
-    osg::GeometryRefPtr m_geometry;
-    osg::UInt32 m_vertices = 0;
-    qint64 m_faces = 0;
+    osg::GeometryRefPtr _geometry;
+    osg::UInt32 _vertices = 0;
+    qint64 _faces = 0;
 };

@@ -7,22 +7,22 @@
 #include <stdexcept>
 
 ImportProgressHandler::ImportProgressHandler(ImportProgress* progress, double end)
-    : m_progress(progress)
-    , m_end(end)
+    : _progress(progress)
+    , _end(end)
 {
 }
 
 bool ImportProgressHandler::Update(float fraction)
 {
-    if (!m_progress)
+    if (!_progress)
         return true;
-    if (m_progress->isCancelled())
+    if (_progress->isCancelled())
         throw std::runtime_error("cancelled");
     // Readers give -1 when they do not know, and some pass 1 on the way.
-    const double now = std::min(static_cast<double>(fraction), 1.0) * m_end;
-    if (now > m_reported) {
-        m_reported = now;
-        m_progress->report(now);
+    const double now = std::min(static_cast<double>(fraction), 1.0) * _end;
+    if (now > _reported) {
+        _reported = now;
+        _progress->report(now);
     }
     return true;
 }

@@ -16,7 +16,7 @@ public:
     bool Update(float fraction) override;
 
 private:
-    ImportProgress* m_progress;
-    double m_end;
-    double m_reported = 0.0;
+    ImportProgress* _progress;
+    double _end;
+    double _reported = 0.0;
 };

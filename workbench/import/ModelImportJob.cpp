@@ -14,28 +14,28 @@ class ModelImportJob::Progress : public ImportProgress
 {
 public:
     explicit Progress(ModelImportJob* job)
-        : m_job(job)
+        : _job(job)
     {
     }
 
-    void cancel() { m_cancelled = true; }
+    void cancel() { _cancelled = true; }
 
     void report(double fraction) override
     {
         // Finer steps would only fill the event queue.
         constexpr double step = 0.01;
-        if (fraction < m_reported + step && fraction < 1.0)
+        if (fraction < _reported + step && fraction < 1.0)
             return;
-        m_reported = fraction;
+        _reported = fraction;
         QMetaObject::invokeMethod(
-            m_job, [job = m_job, fraction] { emit job->progress(fraction); }, Qt::QueuedConnection);
+            _job, [job = _job, fraction] { emit job->progress(fraction); }, Qt::QueuedConnection);
     }
-    bool isCancelled() const override { return m_cancelled; }
+    bool isCancelled() const override { return _cancelled; }
 
 private:
-    ModelImportJob* m_job;
-    double m_reported = 0.0;
-    std::atomic<bool> m_cancelled = false;
+    ModelImportJob* _job;
+    double _reported = 0.0;
+    std::atomic<bool> _cancelled = false;
 };
 
 ModelImportJob::ModelImportJob(QObject* parent)
@@ -46,46 +46,45 @@ ModelImportJob::ModelImportJob(QObject* parent)
 ModelImportJob::~ModelImportJob()
 {
     cancel();
-    if (m_thread)
-        m_thread->wait();
+    if (_thread)
+        _thread->wait();
 }
 
 bool ModelImportJob::isRunning() const
 {
-    return m_thread != nullptr;
+    return _thread != nullptr;
 }
 
 bool ModelImportJob::start(const QString& path)
 {
     if (isRunning())
         return false;
-    m_progress = std::make_unique<Progress>(this);
-    m_result = ImportResult();
+    _progress = std::make_unique<Progress>(this);
+    _result = ImportResult();
     // What finish() finds if the thread cannot be started.
-    m_result.error =
+    _result.error =
         oneLine(path) + QLatin1String(": ") + tr("there is not enough memory to read the file");
-    m_thread = std::make_unique<DeepStackThread>(
-        [this, path] { m_result = ModelImporter::importModel(path, m_progress.get()); });
+    _thread = std::make_unique<DeepStackThread>(
+        [this, path] { _result = ModelImporter::importModel(path, _progress.get()); });
     // The result changes hands when the thread has ended: its references are not atomic.
-    connect(m_thread.get(), &QThread::finished, this, &ModelImportJob::finish,
-            Qt::QueuedConnection);
-    m_thread->start();
-    if (!m_thread->isRunning() && !m_thread->isFinished())
+    connect(_thread.get(), &QThread::finished, this, &ModelImportJob::finish, Qt::QueuedConnection);
+    _thread->start();
+    if (!_thread->isRunning() && !_thread->isFinished())
         QMetaObject::invokeMethod(this, &ModelImportJob::finish, Qt::QueuedConnection);
     return true;
 }
 
 void ModelImportJob::cancel()
 {
-    if (m_progress)
-        m_progress->cancel();
+    if (_progress)
+        _progress->cancel();
 }
 
 void ModelImportJob::finish()
 {
-    m_thread->wait();
-    m_thread.reset();
-    m_progress.reset();
-    const ImportResult result = std::exchange(m_result, ImportResult());
+    _thread->wait();
+    _thread.reset();
+    _progress.reset();
+    const ImportResult result = std::exchange(_result, ImportResult());
     emit finished(result);
 }

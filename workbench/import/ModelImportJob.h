@@ -36,7 +36,7 @@ private:
 
     void finish();
 
-    std::unique_ptr<Progress> m_progress;
-    std::unique_ptr<DeepStackThread> m_thread;
-    ImportResult m_result;
+    std::unique_ptr<Progress> _progress;
+    std::unique_ptr<DeepStackThread> _thread;
+    ImportResult _result;
 };

@@ -7,13 +7,13 @@
 #include <cmath>
 
 NodeRoles::NodeRoles(const AssimpReader& reader)
-    : m_reader(reader)
+    : _reader(reader)
 {
 }
 
 NodeRole NodeRoles::roleOf(const aiNode& node, const aiNode* parent) const
 {
-    const FormatHabits& habits = m_reader.habits();
+    const FormatHabits& habits = _reader.habits();
     const std::string name = habits.nodeName(node);
     if (name.empty() || habits.isHelper(name))
         return NodeRole::Transform;
@@ -43,7 +43,7 @@ bool NodeRoles::carriesTransform(const aiNode& node, const aiNode* parent) const
 {
     if (node.mNumMeshes > 0 || hasMatrix(node))
         return true;
-    const auto& moved = m_reader.movedNames();
+    const auto& moved = _reader.movedNames();
     if (moved.find(std::string(node.mName.data, node.mName.length)) != moved.end())
         return true;
     // Where a transform has pivots its parts are spread over helpers, above and below the node,
@@ -59,7 +59,7 @@ bool NodeRoles::carriesTransform(const aiNode& node, const aiNode* parent) const
 
 bool NodeRoles::isPivotOf(const aiNode& helper, const aiNode& node) const
 {
-    const std::string start = m_reader.habits().nodeName(node) + "_$";
-    const std::string name = m_reader.habits().nodeName(helper);
-    return m_reader.habits().isHelper(name) && name.compare(0, start.size(), start) == 0;
+    const std::string start = _reader.habits().nodeName(node) + "_$";
+    const std::string name = _reader.habits().nodeName(helper);
+    return _reader.habits().isHelper(name) && name.compare(0, start.size(), start) == 0;
 }

@@ -28,5 +28,5 @@ private:
     bool carriesTransform(const aiNode& node, const aiNode* parent) const;
     bool isPivotOf(const aiNode& helper, const aiNode& node) const;
 
-    const AssimpReader& m_reader;
+    const AssimpReader& _reader;
 };

@@ -45,11 +45,11 @@ std::size_t countNodes(const aiNode* root)
 } // namespace
 
 SceneConverter::SceneConverter(const AssimpReader& reader, ImportProgress* progress, double begin)
-    : m_reader(reader)
-    , m_progress(progress)
-    , m_begin(begin)
-    , m_roles(reader)
-    , m_geometries(reader.scene()->mNumMeshes)
+    : _reader(reader)
+    , _progress(progress)
+    , _begin(begin)
+    , _roles(reader)
+    , _geometries(reader.scene()->mNumMeshes)
 {
 }
 
@@ -61,7 +61,7 @@ bool SceneConverter::isEmpty(const AssimpReader& reader)
 
 osg::NodeRefPtr SceneConverter::convert()
 {
-    const aiNode* const first = m_reader.scene()->mRootNode;
+    const aiNode* const first = _reader.scene()->mRootNode;
     const std::size_t known = countNodes(first);
     osg::NodeRefPtr root;
     std::vector<Pending> pending{{first, nullptr, osg::NullFC}};
@@ -87,26 +87,26 @@ osg::NodeRefPtr SceneConverter::convert()
 
 osg::NodePtr SceneConverter::makeNode(const Pending& pending)
 {
-    const NodeRole role = m_roles.roleOf(*pending.node, pending.parent);
+    const NodeRole role = _roles.roleOf(*pending.node, pending.parent);
     const osg::NodePtr node = osg::makeNodeFor(makeCore(*pending.node, role));
-    std::string name = m_reader.habits().nodeName(*pending.node);
+    std::string name = _reader.habits().nodeName(*pending.node);
     if (!name.empty())
-        (role == NodeRole::Key ? m_keyNames : m_otherNames).push_back({node, std::move(name)});
+        (role == NodeRole::Key ? _keyNames : _otherNames).push_back({node, std::move(name)});
     return node;
 }
 
 osg::NodeCorePtr SceneConverter::makeCore(const aiNode& node, NodeRole role)
 {
     if (role == NodeRole::Group) {
-        ++m_statistics.groups;
+        ++_statistics.groups;
         return osg::Group::create();
     }
     osg::TransformPtr core;
     if (role == NodeRole::Key) {
-        ++m_statistics.keyTransforms;
+        ++_statistics.keyTransforms;
         core = osg::KeyTransform::create();
     } else {
-        ++m_statistics.transforms;
+        ++_statistics.transforms;
         core = osg::Transform::create();
     }
     osg::beginEditCP(core, osg::Transform::MatrixFieldMask);
@@ -119,27 +119,27 @@ void SceneConverter::addMeshes(const aiNode& node, const osg::NodePtr& below)
 {
     for (unsigned i = 0; node.mMeshes && i < node.mNumMeshes; ++i) {
         const unsigned mesh = node.mMeshes[i];
-        const aiScene& scene = *m_reader.scene();
+        const aiScene& scene = *_reader.scene();
         if (mesh >= scene.mNumMeshes || !scene.mMeshes[mesh])
             continue;
         const osg::NodePtr leaf = osg::makeNodeFor(geometryOf(mesh));
-        ++m_statistics.geometries;
+        ++_statistics.geometries;
         below->addChild(leaf);
-        std::string name = m_reader.habits().meshName(*scene.mMeshes[mesh]);
+        std::string name = _reader.habits().meshName(*scene.mMeshes[mesh]);
         if (!name.empty())
-            m_meshNames.push_back({leaf, std::move(name)});
+            _meshNames.push_back({leaf, std::move(name)});
     }
 }
 
 osg::GeometryPtr SceneConverter::geometryOf(unsigned mesh)
 {
-    osg::GeometryRefPtr& geometry = m_geometries[mesh];
+    osg::GeometryRefPtr& geometry = _geometries[mesh];
     if (geometry == osg::NullFC) {
-        const GeometryBuilder builder(*m_reader.scene()->mMeshes[mesh]);
+        const GeometryBuilder builder(*_reader.scene()->mMeshes[mesh]);
         geometry = builder.geometry();
-        ++m_statistics.meshes;
-        m_statistics.vertices += builder.vertices();
-        m_statistics.faces += builder.faces();
+        ++_statistics.meshes;
+        _statistics.vertices += builder.vertices();
+        _statistics.faces += builder.faces();
     }
     return geometry;
 }
@@ -147,12 +147,12 @@ osg::GeometryPtr SceneConverter::geometryOf(unsigned mesh)
 bool SceneConverter::goesOn(std::size_t done, std::size_t known)
 {
     constexpr std::size_t stride = 256;
-    if (!m_progress || done % stride != 0)
+    if (!_progress || done % stride != 0)
         return true;
-    if (m_progress->isCancelled())
+    if (_progress->isCancelled())
         return false;
-    m_progress->report(m_begin +
-                       (1.0 - m_begin) * static_cast<double>(done) / static_cast<double>(known));
+    _progress->report(_begin +
+                      (1.0 - _begin) * static_cast<double>(done) / static_cast<double>(known));
     return true;
 }
 
@@ -160,14 +160,14 @@ void SceneConverter::giveNames()
 {
     // Key nodes choose first and meshes last: people know the names of the parts.
     UniqueNames names;
-    for (const auto* list : {&m_keyNames, &m_otherNames, &m_meshNames}) {
+    for (const auto* list : {&_keyNames, &_otherNames, &_meshNames}) {
         for (const Named& named : *list)
             names.announce(named.name);
     }
-    for (const auto* list : {&m_keyNames, &m_otherNames, &m_meshNames}) {
+    for (const auto* list : {&_keyNames, &_otherNames, &_meshNames}) {
         for (const Named& named : *list) {
             const std::string name = names.take(named.name);
-            m_statistics.renamed += name != named.name;
+            _statistics.renamed += name != named.name;
             osg::setName(named.node, name);
         }
     }

@@ -24,7 +24,7 @@ public:
 
     /// The root, with all names unique; NullFC if the import was cancelled.
     osg::NodeRefPtr convert();
-    const ImportStatistics& statistics() const { return m_statistics; }
+    const ImportStatistics& statistics() const { return _statistics; }
 
     /// Whether the file holds nothing below its root and nothing in it.
     static bool isEmpty(const AssimpReader& reader);
@@ -50,13 +50,13 @@ private:
     bool goesOn(std::size_t done, std::size_t known);
     void giveNames();
 
-    const AssimpReader& m_reader;
-    ImportProgress* m_progress;
-    double m_begin;
-    NodeRoles m_roles;
-    ImportStatistics m_statistics;
-    std::vector<osg::GeometryRefPtr> m_geometries;
-    std::vector<Named> m_keyNames;
-    std::vector<Named> m_otherNames;
-    std::vector<Named> m_meshNames;
+    const AssimpReader& _reader;
+    ImportProgress* _progress;
+    double _begin;
+    NodeRoles _roles;
+    ImportStatistics _statistics;
+    std::vector<osg::GeometryRefPtr> _geometries;
+    std::vector<Named> _keyNames;
+    std::vector<Named> _otherNames;
+    std::vector<Named> _meshNames;
 };

@@ -17,7 +17,7 @@ public:
     std::string take(const std::string& name);
 
 private:
-    std::unordered_set<std::string> m_announced;
-    std::unordered_set<std::string> m_taken;
-    std::unordered_map<std::string, int> m_nextNumber;
+    std::unordered_set<std::string> _announced;
+    std::unordered_set<std::string> _taken;
+    std::unordered_map<std::string, int> _nextNumber;
 };

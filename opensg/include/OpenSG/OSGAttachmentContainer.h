@@ -32,7 +32,7 @@ private:
     // A friend function would be found by every caller that has this header, so a class it is.
     friend struct NameAttachment;
 
-    std::unique_ptr<Char8[]> m_name;
+    std::unique_ptr<Char8[]> _name;
 };
 
 } // namespace osg

@@ -51,7 +51,7 @@ private:
 
     static void destroy(FieldContainer* container);
 
-    Int32 m_references = 0;
+    Int32 _references = 0;
 };
 
 typedef RefPtr<FieldContainerPtr> FieldContainerRefPtr;
@@ -70,18 +70,18 @@ class CPEditor
 {
 public:
     explicit CPEditor(const FieldContainerPtr& pointer, BitVector whichField = FieldBits::AllFields)
-        : m_pointer(pointer)
-        , m_whichField(whichField)
+        : _pointer(pointer)
+        , _whichField(whichField)
     {
-        beginEditCP(m_pointer, m_whichField);
+        beginEditCP(_pointer, _whichField);
     }
-    ~CPEditor() { endEditCP(m_pointer, m_whichField); }
+    ~CPEditor() { endEditCP(_pointer, _whichField); }
     CPEditor(const CPEditor&) = delete;
     CPEditor& operator=(const CPEditor&) = delete;
 
 private:
-    FieldContainerPtr m_pointer;
-    BitVector m_whichField;
+    FieldContainerPtr _pointer;
+    BitVector _whichField;
 };
 
 } // namespace osg

@@ -27,29 +27,29 @@ public:
     FieldContainerPtr() = default;
     FieldContainerPtr(NullFieldContainerPtr) {}
     explicit FieldContainerPtr(const FieldContainer* container)
-        : m_container(const_cast<FieldContainer*>(container))
+        : _container(const_cast<FieldContainer*>(container))
     {
     }
     FieldContainerPtr(const FieldContainerPtr&) = default;
-    void operator=(FieldContainerPtr other) { m_container = other.m_container; }
+    void operator=(FieldContainerPtr other) { _container = other._container; }
 
     static FieldContainerPtr dcast(const FieldContainerPtr& pointer) { return pointer; }
 
-    FieldContainer* operator->() const { return m_container; }
-    FieldContainer& operator*() const { return *m_container; }
+    FieldContainer* operator->() const { return _container; }
+    FieldContainer& operator*() const { return *_container; }
     /// The plain pointer, null for NullFC.
-    FieldContainer* getCPtr() const { return m_container; }
+    FieldContainer* getCPtr() const { return _container; }
 
-    explicit operator bool() const { return m_container != nullptr; }
+    explicit operator bool() const { return _container != nullptr; }
 
     friend bool operator==(const FieldContainerPtr& a, const FieldContainerPtr& b)
     {
-        return a.m_container == b.m_container;
+        return a._container == b._container;
     }
     friend bool operator==(const FieldContainerPtr& a, std::nullptr_t) { return !a; }
     friend bool operator<(const FieldContainerPtr& a, const FieldContainerPtr& b)
     {
-        return std::less<FieldContainer*>()(a.m_container, b.m_container);
+        return std::less<FieldContainer*>()(a._container, b._container);
     }
 
 protected:
@@ -57,7 +57,7 @@ protected:
     {
     };
     FieldContainerPtr(FieldContainer* container, Unchecked)
-        : m_container(container)
+        : _container(container)
     {
     }
 
@@ -65,7 +65,7 @@ protected:
     OSG_CORE_API static bool hasType(const FieldContainerPtr& pointer,
                                      const FieldContainerType& type);
 
-    FieldContainer* m_container = nullptr;
+    FieldContainer* _container = nullptr;
 };
 
 /// Points to a container of one type; Base is the pointer to the type that it derives from. The
@@ -81,7 +81,7 @@ public:
     {
     }
     FCPtr(const FCPtr&) = default;
-    void operator=(const FCPtr& other) { this->m_container = other.m_container; }
+    void operator=(const FCPtr& other) { this->_container = other._container; }
 
     /// The same object as a pointer of this type; NullFC if it is null or of another type.
     static FCPtr dcast(const FieldContainerPtr& pointer)
@@ -94,7 +94,7 @@ public:
     Target* operator->() const { return getCPtr(); }
     Target& operator*() const { return *getCPtr(); }
     /// The plain pointer, null for NullFC.
-    Target* getCPtr() const { return static_cast<Target*>(this->m_container); }
+    Target* getCPtr() const { return static_cast<Target*>(this->_container); }
 
 protected:
     typedef FieldContainerPtr::Unchecked Unchecked;

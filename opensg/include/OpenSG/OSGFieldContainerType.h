@@ -19,16 +19,16 @@ public:
     FieldContainerType(const FieldContainerType&) = delete;
     FieldContainerType& operator=(const FieldContainerType&) = delete;
 
-    const Char8* getCName() const { return m_name.str(); }
-    const IDString& getName() const { return m_name; }
+    const Char8* getCName() const { return _name.str(); }
+    const IDString& getName() const { return _name; }
 
     /// Null for the type at the top, and for every type before osgInit().
-    FieldContainerType* getParent() const { return m_parent; }
+    FieldContainerType* getParent() const { return _parent; }
 
     /// True for the type itself and for every type that it derives from.
     bool isDerivedFrom(const FieldContainerType& other) const
     {
-        for (const FieldContainerType* type = this; type; type = type->m_parent) {
+        for (const FieldContainerType* type = this; type; type = type->_parent) {
             if (type == &other)
                 return true;
         }
@@ -40,10 +40,10 @@ public:
 private:
     friend struct TypeRegistry;
 
-    IDString m_name;
-    IDString m_parentName;
-    FieldContainerType* m_parent = nullptr;
-    FieldContainerType* m_nextRegistered = nullptr;
+    IDString _name;
+    IDString _parentName;
+    FieldContainerType* _parent = nullptr;
+    FieldContainerType* _nextRegistered = nullptr;
 };
 
 } // namespace osg

@@ -55,34 +55,34 @@ public:
     /// An empty property without references. NullFC before osgInit().
     static Ptr create() { return FieldContainer::canCreate() ? Ptr(new GeoPropertyData) : Ptr(); }
 
-    UInt32 getSize() const override { return static_cast<UInt32>(m_values.size()); }
+    UInt32 getSize() const override { return static_cast<UInt32>(_values.size()); }
     Value getValue(UInt32 index) const override
     {
-        assert(index < m_values.size());
-        return m_values[index];
+        assert(index < _values.size());
+        return _values[index];
     }
     void setValue(const Value& value, UInt32 index) override
     {
-        assert(index < m_values.size());
-        m_values[index] = static_cast<typename Kind::Stored>(value);
+        assert(index < _values.size());
+        _values[index] = static_cast<typename Kind::Stored>(value);
     }
     void addValue(const Value& value) override
     {
-        m_values.push_back(static_cast<typename Kind::Stored>(value));
+        _values.push_back(static_cast<typename Kind::Stored>(value));
     }
-    void resize(size_t size) override { m_values.resize(size); }
-    void clear() override { m_values.clear(); }
+    void resize(size_t size) override { _values.resize(size); }
+    void clear() override { _values.clear(); }
 
     /// The values themselves, for those who go through all of them.
-    StoredFieldType& getField() { return m_values; }
-    const StoredFieldType& getField() const { return m_values; }
+    StoredFieldType& getField() { return _values; }
+    const StoredFieldType& getField() const { return _values; }
 
 protected:
     GeoPropertyData() = default;
     ~GeoPropertyData() override = default;
 
 private:
-    StoredFieldType m_values;
+    StoredFieldType _values;
 };
 
 struct OSG_CORE_API GeoPTypesKind

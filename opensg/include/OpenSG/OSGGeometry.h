@@ -32,29 +32,29 @@ public:
     /// A geometry without references and properties. NullFC before osgInit().
     static GeometryPtr create();
 
-    GeoPTypesPtr getTypes() const { return m_types; }
-    GeoPLengthsPtr getLengths() const { return m_lengths; }
-    GeoPositionsPtr getPositions() const { return m_positions; }
-    GeoNormalsPtr getNormals() const { return m_normals; }
-    GeoIndicesPtr getIndices() const { return m_indices; }
+    GeoPTypesPtr getTypes() const { return _types; }
+    GeoPLengthsPtr getLengths() const { return _lengths; }
+    GeoPositionsPtr getPositions() const { return _positions; }
+    GeoNormalsPtr getNormals() const { return _normals; }
+    GeoIndicesPtr getIndices() const { return _indices; }
 
     /// Takes a reference of the new property and gives back that of the old one. NullFC unsets it.
-    void setTypes(const GeoPTypesPtr& types) { m_types = types; }
-    void setLengths(const GeoPLengthsPtr& lengths) { m_lengths = lengths; }
-    void setPositions(const GeoPositionsPtr& positions) { m_positions = positions; }
-    void setNormals(const GeoNormalsPtr& normals) { m_normals = normals; }
-    void setIndices(const GeoIndicesPtr& indices) { m_indices = indices; }
+    void setTypes(const GeoPTypesPtr& types) { _types = types; }
+    void setLengths(const GeoPLengthsPtr& lengths) { _lengths = lengths; }
+    void setPositions(const GeoPositionsPtr& positions) { _positions = positions; }
+    void setNormals(const GeoNormalsPtr& normals) { _normals = normals; }
+    void setIndices(const GeoIndicesPtr& indices) { _indices = indices; }
 
 protected:
     Geometry() = default;
     ~Geometry() override;
 
 private:
-    RefPtr<GeoPTypesPtr> m_types;
-    RefPtr<GeoPLengthsPtr> m_lengths;
-    RefPtr<GeoPositionsPtr> m_positions;
-    RefPtr<GeoNormalsPtr> m_normals;
-    RefPtr<GeoIndicesPtr> m_indices;
+    RefPtr<GeoPTypesPtr> _types;
+    RefPtr<GeoPLengthsPtr> _lengths;
+    RefPtr<GeoPositionsPtr> _positions;
+    RefPtr<GeoNormalsPtr> _normals;
+    RefPtr<GeoIndicesPtr> _indices;
 };
 
 } // namespace osg

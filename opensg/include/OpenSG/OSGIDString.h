@@ -15,20 +15,20 @@ public:
     IDString() = default;
     /// The characters are not copied. Null makes an empty string.
     explicit IDString(const Char8* characters)
-        : m_characters(characters ? characters : "")
+        : _characters(characters ? characters : "")
     {
     }
 
     /// Never null.
-    const Char8* str() const { return m_characters; }
+    const Char8* str() const { return _characters; }
 
     bool operator==(const IDString& other) const
     {
-        return std::strcmp(m_characters, other.m_characters) == 0;
+        return std::strcmp(_characters, other._characters) == 0;
     }
 
 private:
-    const Char8* m_characters = "";
+    const Char8* _characters = "";
 };
 
 } // namespace osg

@@ -25,8 +25,8 @@ public:
     void setScale(Real32 x, Real32 y, Real32 z);
 
     /// A column.
-    Vec4f& operator[](UInt32 column) { return m_columns[column]; }
-    const Vec4f& operator[](UInt32 column) const { return m_columns[column]; }
+    Vec4f& operator[](UInt32 column) { return _columns[column]; }
+    const Vec4f& operator[](UInt32 column) const { return _columns[column]; }
 
     /// this = this * right
     void mult(const Matrix& right);
@@ -43,7 +43,7 @@ public:
     bool operator==(const Matrix& other) const;
 
 private:
-    Vec4f m_columns[4];
+    Vec4f _columns[4];
 };
 
 } // namespace osg

@@ -30,14 +30,14 @@ public:
     static NodePtr create();
 
     /// NullFC for a root.
-    NodePtr getParent() { return m_parent; }
+    NodePtr getParent() { return _parent; }
 
-    UInt32 getNChildren() const { return static_cast<UInt32>(m_children.size()); }
+    UInt32 getNChildren() const { return static_cast<UInt32>(_children.size()); }
     /// The index must be less than getNChildren().
     NodePtr getChild(UInt32 index)
     {
-        assert(index < m_children.size());
-        return m_children[index];
+        assert(index < _children.size());
+        return _children[index];
     }
     /// The index of the child, -1 if it is not one of ours.
     Int32 findChild(const NodePtr& child) const;
@@ -60,7 +60,7 @@ public:
     void subChild(UInt32 index);
 
     /// NullFC if there is none. The core may be that of other nodes, too.
-    NodeCorePtr getCore() const { return m_core; }
+    NodeCorePtr getCore() const { return _core; }
     /// Takes a reference of the new core and gives back that of the old one. NullFC leaves the node
     /// without a core.
     void setCore(const NodeCorePtr& core);
@@ -74,9 +74,9 @@ private:
     bool leaveParent();
     void adopt(const NodePtr& child);
 
-    NodePtr m_parent;
-    NodeCoreRefPtr m_core;
-    std::vector<NodePtr> m_children;
+    NodePtr _parent;
+    NodeCoreRefPtr _core;
+    std::vector<NodePtr> _children;
 };
 
 } // namespace osg

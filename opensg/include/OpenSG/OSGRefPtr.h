@@ -14,33 +14,33 @@ class RefPtr
 public:
     RefPtr() = default;
     explicit RefPtr(const Pointer& pointer)
-        : m_pointer(pointer)
+        : _pointer(pointer)
     {
-        addRefCP(m_pointer);
+        addRefCP(_pointer);
     }
     RefPtr(const RefPtr& other)
-        : RefPtr(other.m_pointer)
+        : RefPtr(other._pointer)
     {
     }
-    ~RefPtr() { subRefCP(m_pointer); }
+    ~RefPtr() { subRefCP(_pointer); }
 
     void operator=(const Pointer& pointer)
     {
         // The old target may own the very pointer that we were handed, so let go of it last.
-        const Pointer old = m_pointer;
+        const Pointer old = _pointer;
         addRefCP(pointer);
-        m_pointer = pointer;
+        _pointer = pointer;
         subRefCP(old);
     }
-    void operator=(const RefPtr& other) { *this = other.m_pointer; }
+    void operator=(const RefPtr& other) { *this = other._pointer; }
 
-    operator Pointer() const { return m_pointer; }
-    Pointer get() const { return m_pointer; }
-    auto* operator->() const { return m_pointer.operator->(); }
-    auto& operator*() const { return *m_pointer; }
+    operator Pointer() const { return _pointer; }
+    Pointer get() const { return _pointer; }
+    auto* operator->() const { return _pointer.operator->(); }
+    auto& operator*() const { return *_pointer; }
 
 private:
-    Pointer m_pointer;
+    Pointer _pointer;
 };
 
 } // namespace osg

@@ -26,15 +26,15 @@ public:
     /// A transform without references that leaves everything in place. NullFC before osgInit().
     static TransformPtr create();
 
-    const Matrix& getMatrix() const { return m_matrix; }
-    void setMatrix(const Matrix& matrix) { m_matrix = matrix; }
+    const Matrix& getMatrix() const { return _matrix; }
+    void setMatrix(const Matrix& matrix) { _matrix = matrix; }
 
 protected:
     Transform() = default;
     ~Transform() override;
 
 private:
-    Matrix m_matrix;
+    Matrix _matrix;
 };
 
 } // namespace osg

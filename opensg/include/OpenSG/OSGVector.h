@@ -15,34 +15,34 @@ class Tuple
 public:
     Tuple() = default;
 
-    Real32& operator[](UInt32 index) { return m_values[index]; }
-    const Real32& operator[](UInt32 index) const { return m_values[index]; }
-    Real32 x() const { return m_values[0]; }
-    Real32 y() const { return m_values[1]; }
-    Real32 z() const { return m_values[2]; }
+    Real32& operator[](UInt32 index) { return _values[index]; }
+    const Real32& operator[](UInt32 index) const { return _values[index]; }
+    Real32 x() const { return _values[0]; }
+    Real32 y() const { return _values[1]; }
+    Real32 z() const { return _values[2]; }
 
-    const Real32* getValues() const { return m_values; }
+    const Real32* getValues() const { return _values; }
 
 protected:
     Tuple(Real32 x, Real32 y, Real32 z)
-        : m_values{x, y, z}
+        : _values{x, y, z}
     {
     }
     Tuple(Real32 x, Real32 y, Real32 z, Real32 w)
-        : m_values{x, y, z, w}
+        : _values{x, y, z, w}
     {
     }
     bool equals(const Tuple& other) const
     {
         for (UInt32 i = 0; i < Size; ++i) {
-            if (m_values[i] != other.m_values[i])
+            if (_values[i] != other._values[i])
                 return false;
         }
         return true;
     }
 
 private:
-    Real32 m_values[Size] = {};
+    Real32 _values[Size] = {};
 };
 
 /// A direction with a length.

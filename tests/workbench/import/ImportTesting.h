@@ -14,12 +14,12 @@ class ImportFolder
 public:
     /// The whole path of the file, which is written with the content.
     QString write(const QString& name, const QByteArray& content) const;
-    QString path(const QString& name) const { return m_folder.filePath(name); }
+    QString path(const QString& name) const { return _folder.filePath(name); }
 
     ImportResult import(const QString& name, const QByteArray& content) const;
 
 private:
-    QTemporaryDir m_folder;
+    QTemporaryDir _folder;
 };
 
 /// The text of a glTF file with the given entries of its list of nodes, of which the first is the

@@ -38,11 +38,11 @@ class StandardStreams
 public:
     StandardStreams()
     {
-        m_file.open();
+        _file.open();
         flush();
         for (int stream = 0; stream < 2; ++stream) {
-            m_kept[stream] = dup(stream + 1);
-            dup2(m_file.handle(), stream + 1);
+            _kept[stream] = dup(stream + 1);
+            dup2(_file.handle(), stream + 1);
         }
     }
     ~StandardStreams() { restore(); }
@@ -51,14 +51,14 @@ public:
     {
         flush();
         for (int stream = 0; stream < 2; ++stream) {
-            if (m_kept[stream] < 0)
+            if (_kept[stream] < 0)
                 continue;
-            dup2(m_kept[stream], stream + 1);
-            close(m_kept[stream]);
-            m_kept[stream] = -1;
+            dup2(_kept[stream], stream + 1);
+            close(_kept[stream]);
+            _kept[stream] = -1;
         }
-        m_file.seek(0);
-        return m_file.readAll();
+        _file.seek(0);
+        return _file.readAll();
     }
 
 private:
@@ -68,8 +68,8 @@ private:
         std::fflush(stderr);
     }
 
-    QTemporaryFile m_file;
-    int m_kept[2];
+    QTemporaryFile _file;
+    int _kept[2];
 };
 
 QString whatIsWrong(const ImportResult& result, const QString& path)
@@ -114,16 +114,16 @@ class tst_assimp_models : public QObject
     Q_OBJECT
 
 private:
-    const QString m_models = QStringLiteral(SUBNODEVIEWS_ASSIMP_MODELS);
-    int m_imported = 0;
-    int m_refused = 0;
-    double m_seconds = 0.0;
+    const QString _models = QStringLiteral(SUBNODEVIEWS_ASSIMP_MODELS);
+    int _imported = 0;
+    int _refused = 0;
+    double _seconds = 0.0;
 
 private slots:
     void initTestCase()
     {
         QVERIFY(osg::osgInit(0, nullptr));
-        QVERIFY2(!m_models.isEmpty() && QDir(m_models).exists(),
+        QVERIFY2(!_models.isEmpty() && QDir(_models).exists(),
                  "The package assimp-testmodels is missing: install it and configure again.");
     }
     void init() { QTest::failOnWarning(QRegularExpression(".*")); }
@@ -132,9 +132,9 @@ private slots:
     {
         QTest::addColumn<QStringList>("files");
         for (const QString& folder :
-             QDir(m_models).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name)) {
+             QDir(_models).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name)) {
             QStringList files;
-            QDirIterator found(m_models + "/" + folder, QDir::Files, QDirIterator::Subdirectories);
+            QDirIterator found(_models + "/" + folder, QDir::Files, QDirIterator::Subdirectories);
             while (found.hasNext())
                 files += found.next();
             files.sort();
@@ -145,7 +145,7 @@ private slots:
     {
         QFETCH(const QStringList, files);
         for (const QString& path : files) {
-            const QString file = path.mid(m_models.size() + 1);
+            const QString file = path.mid(_models.size() + 1);
             const auto* const known =
                 std::find_if(std::begin(excluded), std::end(excluded),
                              [&](const Excluded& each) { return file == each.file; });
@@ -157,20 +157,20 @@ private slots:
             QElapsedTimer timer;
             timer.start();
             const ImportResult result = ModelImporter::importModel(path);
-            m_seconds += static_cast<double>(timer.nsecsElapsed()) * 1.0e-9;
+            _seconds += static_cast<double>(timer.nsecsElapsed()) * 1.0e-9;
             const QByteArray written = streams.restore();
             QVERIFY2(written.isEmpty() || mayWrite(file),
                      qPrintable(file + " made it write: " + written));
             const QString wrong = whatIsWrong(result, path);
             QVERIFY2(wrong.isEmpty(), qPrintable(file + ": " + wrong));
-            ++(result.succeeded() ? m_imported : m_refused);
+            ++(result.succeeded() ? _imported : _refused);
         }
     }
 
     void most_models_are_imported()
     {
-        qInfo("%d files imported, %d refused, in %.1f s", m_imported, m_refused, m_seconds);
-        QVERIFY(m_imported > 300);
+        qInfo("%d files imported, %d refused, in %.1f s", _imported, _refused, _seconds);
+        QVERIFY(_imported > 300);
     }
 };
 

@@ -13,11 +13,11 @@ class tst_conversion : public QObject
     Q_OBJECT
 
 private:
-    ImportFolder m_folder;
+    ImportFolder _folder;
 
     QByteArrayList outline(const QString& name, const QByteArray& content) const
     {
-        const ImportResult result = m_folder.import(name, content);
+        const ImportResult result = _folder.import(name, content);
         return result.succeeded() ? SceneOutline::lines(result.root)
                                   : QByteArrayList{result.error.toUtf8()};
     }
@@ -131,7 +131,7 @@ private slots:
 
     void matrices_are_columns()
     {
-        const ImportResult result = m_folder.import(
+        const ImportResult result = _folder.import(
             "matrix.gltf",
             gltf({R"({"name":"Top","children":[1]})",
                   R"({"name":"Arm","matrix":[1,2,3,0,4,5,6,0,7,8,9,0,10,11,12,1]})"}));
@@ -146,8 +146,8 @@ private slots:
     void a_matrix_with_numbers_that_are_not_finite_moves_nothing()
     {
         const ImportResult result =
-            m_folder.import("infinite.gltf", gltf({R"({"name":"Top","children":[1]})",
-                                                   R"({"name":"Arm","translation":[1e300,0,0]})"}));
+            _folder.import("infinite.gltf", gltf({R"({"name":"Top","children":[1]})",
+                                                  R"({"name":"Arm","translation":[1e300,0,0]})"}));
         QCOMPARE(result.error, QString());
         const osg::NodePtr arm = SceneOutline::find(result.root, "Arm");
         QCOMPARE(SceneOutline::kindOf(arm), "key");
@@ -157,9 +157,9 @@ private slots:
     void instances_share_a_core()
     {
         const ImportResult result =
-            m_folder.import("instances.gltf",
-                            gltf({R"({"name":"Top","children":[1,2]})",
-                                  R"({"name":"Left","mesh":0})", R"({"name":"Right","mesh":0})"}));
+            _folder.import("instances.gltf",
+                           gltf({R"({"name":"Top","children":[1,2]})",
+                                 R"({"name":"Left","mesh":0})", R"({"name":"Right","mesh":0})"}));
         QCOMPARE(result.error, QString());
         const osg::NodePtr first = SceneOutline::find(result.root, "Triangle");
         const osg::NodePtr second = SceneOutline::find(result.root, "Triangle_2");
@@ -172,7 +172,7 @@ private slots:
     void geometry_is_filled()
     {
         const ImportResult result =
-            m_folder.import("quad.obj", "v 0 0 0\nv 1 0 0\nv 1 1 0\nv 0 1 0\ng Quad\nf 1 2 3 4\n");
+            _folder.import("quad.obj", "v 0 0 0\nv 1 0 0\nv 1 1 0\nv 0 1 0\ng Quad\nf 1 2 3 4\n");
         QCOMPARE(result.error, QString());
         const QList<osg::NodePtr> nodes = SceneOutline::nodes(result.root);
         const osg::GeometryPtr geometry = osg::GeometryPtr::dcast(nodes.last()->getCore());
@@ -186,7 +186,7 @@ private slots:
 
     void statistics_count_every_kind()
     {
-        const ImportResult result = m_folder.import(
+        const ImportResult result = _folder.import(
             "kinds.gltf", gltf({R"({"name":"Top","children":[1,2,3]})",
                                 R"({"name":"Arm","mesh":0})", R"({"name":"Arm","mesh":1})", "{}"}));
         QCOMPARE(result.statistics.groups, 1);

@@ -19,11 +19,11 @@ private:
         reader.mFileExtensions = extensions;
         return FormatHabits(&reader, path);
     }
-    const FormatHabits m_gltf = habits("glTF2 Importer", "gltf glb");
-    const FormatHabits m_fbx = habits("Autodesk FBX Importer", "fbx");
-    const FormatHabits m_collada = habits("Collada Importer", "dae zae xml");
-    const FormatHabits m_ifc = habits("Industry Foundation Classes (IFC) Importer", "ifc ifczip");
-    const FormatHabits m_other = habits("Wavefront Object Importer", "obj");
+    const FormatHabits _gltf = habits("glTF2 Importer", "gltf glb");
+    const FormatHabits _fbx = habits("Autodesk FBX Importer", "fbx");
+    const FormatHabits _collada = habits("Collada Importer", "dae zae xml");
+    const FormatHabits _ifc = habits("Industry Foundation Classes (IFC) Importer", "ifc ifczip");
+    const FormatHabits _other = habits("Wavefront Object Importer", "obj");
 
     static std::string nodeName(const FormatHabits& habits, const std::string& name)
     {
@@ -41,51 +41,51 @@ private:
 private slots:
     void numbers_that_stand_in_for_names_are_no_names()
     {
-        QVERIFY(nodeName(m_gltf, "nodes[0]").empty());
-        QVERIFY(nodeName(m_gltf, "nodes[123]").empty());
-        QVERIFY(meshName(m_gltf, "meshes[4]").empty());
-        QVERIFY(meshName(m_gltf, "meshes[4]-12").empty());
-        QVERIFY(nodeName(m_collada, "$ColladaAutoName$_7").empty());
+        QVERIFY(nodeName(_gltf, "nodes[0]").empty());
+        QVERIFY(nodeName(_gltf, "nodes[123]").empty());
+        QVERIFY(meshName(_gltf, "meshes[4]").empty());
+        QVERIFY(meshName(_gltf, "meshes[4]-12").empty());
+        QVERIFY(nodeName(_collada, "$ColladaAutoName$_7").empty());
     }
 
     void names_that_look_similar_are_names()
     {
         for (const char* name :
              {"nodes[]", "nodes[x]", "nodes[1]x", "nodes", "nodes[1", "nodes[1]-"})
-            QCOMPARE(nodeName(m_gltf, name), std::string(name));
-        QCOMPARE(nodeName(m_other, "nodes[0]"), std::string("nodes[0]"));
-        QCOMPARE(meshName(m_other, "meshes[0]"), std::string("meshes[0]"));
+            QCOMPARE(nodeName(_gltf, name), std::string(name));
+        QCOMPARE(nodeName(_other, "nodes[0]"), std::string("nodes[0]"));
+        QCOMPARE(meshName(_other, "meshes[0]"), std::string("meshes[0]"));
     }
 
     void a_name_ends_at_its_first_zero()
     {
-        QCOMPARE(nodeName(m_other, std::string("Arm\0Leg", 7)), std::string("Arm"));
-        QVERIFY(nodeName(m_other, std::string("\0Leg", 4)).empty());
+        QCOMPARE(nodeName(_other, std::string("Arm\0Leg", 7)), std::string("Arm"));
+        QVERIFY(nodeName(_other, std::string("\0Leg", 4)).empty());
     }
 
     void a_root_that_is_named_by_the_path_gets_the_name_of_the_file()
     {
-        QCOMPARE(nodeName(m_other, "folder/model"), std::string("model"));
-        QCOMPARE(nodeName(m_other, "folder/part"), std::string("folder/part"));
+        QCOMPARE(nodeName(_other, "folder/model"), std::string("model"));
+        QCOMPARE(nodeName(_other, "folder/part"), std::string("folder/part"));
     }
 
     void dollars_mark_helpers_except_where_they_are_ordinary()
     {
-        QVERIFY(m_fbx.isHelper("Arm_$AssimpFbx$_Rotation"));
-        QVERIFY(m_other.isHelper("$dummy_root"));
-        QVERIFY(!m_other.isHelper("Arm"));
-        QVERIFY(!m_ifc.isHelper("1Qvf0xqDT4HXo8jI81mHB$"));
+        QVERIFY(_fbx.isHelper("Arm_$AssimpFbx$_Rotation"));
+        QVERIFY(_other.isHelper("$dummy_root"));
+        QVERIFY(!_other.isHelper("Arm"));
+        QVERIFY(!_ifc.isHelper("1Qvf0xqDT4HXo8jI81mHB$"));
     }
 
     void roots_that_readers_add_are_known()
     {
-        QVERIFY(m_other.isAddedRoot("<3DSRoot>"));
-        QVERIFY(!m_other.isAddedRoot("Root"));
-        QVERIFY(!m_other.isAddedRoot("<>"));
-        QVERIFY(!m_other.isAddedRoot(""));
-        QVERIFY(m_fbx.isAddedRoot("RootNode"));
-        QVERIFY(!m_gltf.isAddedRoot("RootNode"));
-        QVERIFY(m_collada.isAddedRoot("Scene"));
+        QVERIFY(_other.isAddedRoot("<3DSRoot>"));
+        QVERIFY(!_other.isAddedRoot("Root"));
+        QVERIFY(!_other.isAddedRoot("<>"));
+        QVERIFY(!_other.isAddedRoot(""));
+        QVERIFY(_fbx.isAddedRoot("RootNode"));
+        QVERIFY(!_gltf.isAddedRoot("RootNode"));
+        QVERIFY(_collada.isAddedRoot("Scene"));
     }
 
     void an_unknown_reader_has_no_habits()

@@ -10,29 +10,29 @@ class tst_import_file_system : public QObject
     Q_OBJECT
 
 private:
-    ImportFolder m_folder;
-    ImportFileSystem m_files;
+    ImportFolder _folder;
+    ImportFileSystem _files;
 
     bool opens(const QString& name, const char* mode)
     {
         Assimp::IOStream* const stream =
-            m_files.Open(m_folder.path(name).toLocal8Bit().constData(), mode);
+            _files.Open(_folder.path(name).toLocal8Bit().constData(), mode);
         if (stream)
-            m_files.Close(stream);
+            _files.Close(stream);
         return stream != nullptr;
     }
 
 private slots:
     void regular_files_can_be_read()
     {
-        m_folder.write("model.obj", "v 0 0 0\n");
+        _folder.write("model.obj", "v 0 0 0\n");
         QVERIFY(opens("model.obj", "rb"));
         QVERIFY(opens("model.obj", "rt"));
     }
 
     void nothing_can_be_written()
     {
-        const QString path = m_folder.write("kept.obj", "v 0 0 0\n");
+        const QString path = _folder.write("kept.obj", "v 0 0 0\n");
         for (const char* mode : {"wb", "w", "ab", "r+"})
             QVERIFY(!opens("kept.obj", mode));
         QVERIFY(!opens("new.obj", "wb"));
@@ -41,10 +41,10 @@ private slots:
 
     void folders_devices_and_pipes_do_not_exist()
     {
-        QCOMPARE(mkfifo(m_folder.path("pipe").toLocal8Bit().constData(), 0600), 0);
+        QCOMPARE(mkfifo(_folder.path("pipe").toLocal8Bit().constData(), 0600), 0);
         QVERIFY(!opens("pipe", "rb"));
         QVERIFY(!opens(".", "rb"));
-        QVERIFY(!m_files.Exists("/dev/zero"));
+        QVERIFY(!_files.Exists("/dev/zero"));
         QVERIFY(!opens("absent", "rb"));
     }
 };

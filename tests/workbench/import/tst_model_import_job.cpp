@@ -14,19 +14,19 @@ class tst_model_import_job : public QObject
     Q_OBJECT
 
 private:
-    ImportFolder m_folder;
-    QString m_small;
-    QString m_large;
+    ImportFolder _folder;
+    QString _small;
+    QString _large;
 
 private slots:
     void initTestCase()
     {
         QVERIFY(osg::osgInit(0, nullptr));
-        m_small = m_folder.write("small.gltf", gltf({R"({"name":"Arm","mesh":0})"}));
+        _small = _folder.write("small.gltf", gltf({R"({"name":"Arm","mesh":0})"}));
         QByteArray text = "xof 0303txt 0032\nFrame Top {\n";
         for (int i = 0; i < 20000; ++i)
             text += "Frame Arm { }\n";
-        m_large = m_folder.write("large.x", text + "}\n");
+        _large = _folder.write("large.x", text + "}\n");
     }
     void init() { QTest::failOnWarning(QRegularExpression(".*")); }
 
@@ -44,7 +44,7 @@ private slots:
             results += result;
             inOwnThread = inOwnThread && QThread::currentThread() == thread();
         });
-        QVERIFY(job.start(m_small));
+        QVERIFY(job.start(_small));
         QVERIFY(job.isRunning());
         QTRY_COMPARE(results.size(), 1);
         QVERIFY(!job.isRunning());
@@ -71,10 +71,10 @@ private slots:
         connect(&job, &ModelImportJob::finished, [&] {
             // A job is free again when it tells that it is.
             if (++finished == 1)
-                QVERIFY(job.start(m_small));
+                QVERIFY(job.start(_small));
         });
-        QVERIFY(job.start(m_large));
-        QVERIFY(!job.start(m_small));
+        QVERIFY(job.start(_large));
+        QVERIFY(!job.start(_small));
         QTRY_COMPARE(finished, 2);
     }
 
@@ -85,7 +85,7 @@ private slots:
         connect(&job, &ModelImportJob::finished,
                 [&](const ImportResult& result) { results += result; });
         job.cancel();
-        QVERIFY(job.start(m_large));
+        QVERIFY(job.start(_large));
         job.cancel();
         QTRY_COMPARE(results.size(), 1);
         QVERIFY(results[0].cancelled);
@@ -95,7 +95,7 @@ private slots:
     void a_job_that_dies_stops_its_import()
     {
         ModelImportJob job;
-        QVERIFY(job.start(m_large));
+        QVERIFY(job.start(_large));
     }
 };
 

@@ -13,16 +13,16 @@ class tst_model_importer : public QObject
     Q_OBJECT
 
 private:
-    ImportFolder m_folder;
-    const QByteArray m_content = gltf({R"({"name":"Top","children":[1]})", R"({"name":"Arm"})"});
+    ImportFolder _folder;
+    const QByteArray _content = gltf({R"({"name":"Top","children":[1]})", R"({"name":"Arm"})"});
 
 private slots:
     void initTestCase()
     {
         // Before the library has been started there is no scene graph to import into.
-        const ImportResult early = m_folder.import("early.gltf", m_content);
+        const ImportResult early = _folder.import("early.gltf", _content);
         QCOMPARE(early.error,
-                 m_folder.path("early.gltf") + ": the scene graph has not been started");
+                 _folder.path("early.gltf") + ": the scene graph has not been started");
         QVERIFY(osg::osgInit(0, nullptr));
     }
     void init() { QTest::failOnWarning(QRegularExpression(".*")); }
@@ -31,7 +31,7 @@ private slots:
     {
         RecordingProgress progress;
         const ImportResult result =
-            ModelImporter::importModel(m_folder.write("model.gltf", m_content), &progress);
+            ModelImporter::importModel(_folder.write("model.gltf", _content), &progress);
         QVERIFY(result.succeeded());
         QVERIFY(!progress.fractions.isEmpty());
         QVERIFY(std::is_sorted(progress.fractions.begin(), progress.fractions.end()));
@@ -52,7 +52,7 @@ private slots:
         QByteArray text = "xof 0303txt 0032\nFrame Top {\n";
         for (int i = 0; i < 2000; ++i)
             text += "Frame Arm { }\n";
-        const QString path = m_folder.write("model.x", text + "}\n");
+        const QString path = _folder.write("model.x", text + "}\n");
         RecordingProgress progress;
         progress.cancelAt = at;
         const ImportResult result = ModelImporter::importModel(path, &progress);
@@ -72,7 +72,7 @@ private slots:
 
     void any_thread_may_import()
     {
-        const QString path = m_folder.write("thread.gltf", m_content);
+        const QString path = _folder.write("thread.gltf", _content);
         ImportResult result;
         const std::unique_ptr<QThread> thread(
             QThread::create([&] { result = ModelImporter::importModel(path); }));
@@ -84,7 +84,7 @@ private slots:
 
     void the_result_owns_the_root()
     {
-        ImportResult result = m_folder.import("owned.gltf", m_content);
+        ImportResult result = _folder.import("owned.gltf", _content);
         const osg::NodeRefPtr child(result.root->getChild(0));
         QVERIFY(child->getParent() == result.root);
         result = ImportResult();
@@ -93,7 +93,7 @@ private slots:
 
     void a_path_with_letters_of_all_scripts_is_read()
     {
-        QVERIFY(m_folder.import(QStringLiteral("腕 ä.gltf"), m_content).succeeded());
+        QVERIFY(_folder.import(QStringLiteral("腕 ä.gltf"), _content).succeeded());
     }
 
     void formats_are_sorted_and_described()

@@ -11,7 +11,7 @@ class tst_unusual_names : public QObject
     Q_OBJECT
 
 private:
-    ImportFolder m_folder;
+    ImportFolder _folder;
 
     static QByteArray node(const QByteArray& name, const QByteArray& rest = {})
     {
@@ -25,9 +25,9 @@ private slots:
     void key_nodes_choose_before_groups_and_meshes()
     {
         const ImportResult result =
-            m_folder.import("doubled.gltf", gltf({node("Triangle", R"(,"children":[1,2,3])"),
-                                                  node("Arm"), node("Arm", R"(,"mesh":0)"),
-                                                  node("Triangle", R"(,"translation":[1,0,0])")}));
+            _folder.import("doubled.gltf", gltf({node("Triangle", R"(,"children":[1,2,3])"),
+                                                 node("Arm"), node("Arm", R"(,"mesh":0)"),
+                                                 node("Triangle", R"(,"translation":[1,0,0])")}));
         QCOMPARE(SceneOutline::lines(result.root),
                  QByteArrayList({"group Triangle_2", ".group Arm_2", ".key Arm",
                                  "..geometry Triangle_3", ".key Triangle"}));
@@ -35,7 +35,7 @@ private slots:
 
     void a_number_never_takes_a_name_of_the_file()
     {
-        const ImportResult result = m_folder.import(
+        const ImportResult result = _folder.import(
             "numbered.gltf",
             gltf({node("Top", R"(,"children":[1,2,3])"), node("Arm"), node("Arm"), node("Arm_2")}));
         QCOMPARE(SceneOutline::lines(result.root),
@@ -45,7 +45,7 @@ private slots:
     void bytes_that_are_no_text_are_kept()
     {
         const QByteArray bytes("x\xff\xfe\xc0y");
-        const ImportResult result = m_folder.import(
+        const ImportResult result = _folder.import(
             "bytes.x", "xof 0303txt 0032\nFrame Top {\n Frame " + bytes + " {\n }\n}\n");
         QCOMPARE(result.error, QString());
         QCOMPARE(SceneOutline::lines(result.root),
@@ -55,13 +55,13 @@ private slots:
     void letters_of_all_scripts_are_kept()
     {
         const ImportResult result =
-            m_folder.import("script.gltf", gltf({node("Top", R"(,"children":[1])"), node("右腕")}));
+            _folder.import("script.gltf", gltf({node("Top", R"(,"children":[1])"), node("右腕")}));
         QCOMPARE(SceneOutline::lines(result.root), QByteArrayList({"group Top", ".group 右腕"}));
     }
 
     void names_that_differ_only_after_a_zero_are_made_different()
     {
-        const ImportResult result = m_folder.import(
+        const ImportResult result = _folder.import(
             "zero.gltf", gltf({node("Top", R"(,"children":[1,2])"), node(R"(Arm\u0000Left)"),
                                node(R"(Arm\u0000Right)")}));
         QCOMPARE(result.error, QString());
@@ -72,7 +72,7 @@ private slots:
     void very_long_names_keep_their_beginning_and_stay_different()
     {
         const QByteArray name(10000, 'n');
-        const ImportResult result = m_folder.import(
+        const ImportResult result = _folder.import(
             "long.gltf", gltf({node("Top", R"(,"children":[1,2])"), node(name), node(name)}));
         QCOMPARE(result.error, QString());
         const QList<osg::NodePtr> nodes = SceneOutline::nodes(result.root);
@@ -88,7 +88,7 @@ private slots:
         QByteArray text = "xof 0303txt 0032\nFrame Top {\n";
         for (int i = 0; i < count; ++i)
             text += "Frame Arm { }\n";
-        const ImportResult result = m_folder.import("equal.x", text + "}\n");
+        const ImportResult result = _folder.import("equal.x", text + "}\n");
         QCOMPARE(result.error, QString());
         QSet<QByteArray> names;
         for (const osg::NodePtr& each : SceneOutline::nodes(result.root))
