@@ -41,6 +41,12 @@ const QString& defaultFontName()
     return name;
 }
 
+/// One pixel wide at every zoom.
+QPen hairline(const QColor& color)
+{
+    return QPen(color, 0.0);
+}
+
 float rowY(int row)
 {
     return static_cast<float>(row * rowPitch);
@@ -111,11 +117,12 @@ void GV_GraphXMainItem::paint(QPainter* painter, const QStyleOptionGraphicsItem*
 {
     _painter = painter;
     _normalPen = painter->pen();
+    _normalPen.setCosmetic(true);
     _levelOfDetail = static_cast<float>(
         QStyleOptionGraphicsItem::levelOfDetailFromTransform(painter->worldTransform()));
     _drawText = _levelOfDetail > textLevel;
     const int grey = textGrey(_levelOfDetail);
-    _textPen.setColor(QColor(grey, grey, grey, 255));
+    _textPen = hairline(QColor(grey, grey, grey, 255));
 
     const QFont savedFont = painter->font();
     painter->setFont(GV_GraphUiInfo::font());
@@ -128,9 +135,9 @@ void GV_GraphXMainItem::paint(QPainter* painter, const QStyleOptionGraphicsItem*
             _activeHeaderIx = activeIx;
             _offset = static_cast<float>(activeIx * headerPitch);
             const QColor savedColor = painter->pen().color();
-            painter->setPen(__networkLineColor);
+            painter->setPen(hairline(__networkLineColor));
             drawLines(uiInfo->shownRows());
-            painter->setPen(savedColor);
+            painter->setPen(hairline(savedColor));
         }
         // The boxes cover the ends of the lines, so they come after them.
         drawHeaderNodes(headers);
@@ -167,7 +174,7 @@ QColor GV_GraphXMainItem::boxColor(const GV_UiNode* node) const
 
 void GV_GraphXMainItem::drawHeaderNodes(std::vector<const GV_UiNode*>& headers)
 {
-    _painter->setPen(QColor(0, 0, 0, 255));
+    _painter->setPen(hairline(QColor(0, 0, 0, 255)));
     for (std::size_t i = 0; i < headers.size(); ++i) {
         const float x = static_cast<float>(i * headerPitch);
         const QRectF box(x, 0.0, boxWidth, boxHeight);
@@ -197,7 +204,7 @@ void GV_GraphXMainItem::drawNode(const GV_UiNode* node)
     const QRectF box(x, y, boxWidth, boxHeight);
     if (isOutOfView(box))
         return;
-    _painter->setPen(QColor(0, 0, 0, 255));
+    _painter->setPen(hairline(QColor(0, 0, 0, 255)));
     _painter->setBrush(boxColor(node));
     _painter->drawRect(box);
     drawLabel(node, QRectF(x + labelIndent, y + labelTop, labelWidth, labelHeight));

@@ -106,9 +106,11 @@ bool GV_GraphXViewQt::loadPreferences()
         QStringLiteral("ST_3DNODEVIEW_BACKGROUND_COLOR"), backgroundRgba));
     if (background != __viewBackgroundQColor) {
         __viewBackgroundQColor = background;
-        setBackgroundBrush(__viewBackgroundQColor);
         changed = true;
     }
+    // The colour is shared, so another view may have been the one to notice that it changed.
+    if (backgroundBrush() != QBrush(__viewBackgroundQColor))
+        setBackgroundBrush(__viewBackgroundQColor);
     changed |= _mainItem->loadPreferences();
     changed |= _controller->uiInfo()->loadPreferences();
     return changed;

@@ -18,11 +18,18 @@ constexpr ushort lastPlain = 0x7e;
 /// How many measured names are remembered; beyond it they are forgotten all at once.
 constexpr qsizetype mostMeasured = 100000;
 
+/// Without a branch for each character, so that the compiler can look at many at once.
 bool isPlain(const QString& text)
 {
-    return std::all_of(text.begin(), text.end(), [](QChar character) {
-        return character.unicode() >= firstPlain && character.unicode() <= lastPlain;
-    });
+    bool plain = true;
+    for (const QChar character : text)
+        plain &= static_cast<ushort>(character.unicode() - firstPlain) <= lastPlain - firstPlain;
+    return plain;
+}
+
+bool hasSpaceAtAnEnd(const QString& text)
+{
+    return text.startsWith(QChar(firstPlain)) || text.endsWith(QChar(firstPlain));
 }
 
 /// Every plain character next to every other one.
@@ -87,6 +94,8 @@ QString GV_NameShortener::shorten(const QString& name)
         return measured(name);
     if (length <= _surelyFits)
         return {};
+    if (hasSpaceAtAnEnd(name))
+        return measured(name);
     const Cut cut = cutOfLength(length);
     QString shortened;
     shortened.reserve(cut.left + _ellipsis.size() + cut.right);

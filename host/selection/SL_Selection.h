@@ -16,8 +16,8 @@ class TUSceneChangeManager;
 class HOST_EXPORT SL_Selection
 {
 public:
-    /// While a scope is open changes are only collected; when the outermost one ends, whatever
-    /// changed is told at once.
+    /// While a scope is open changes are only collected. When the outermost one ends, each kind of
+    /// change that was made is told once, also where the selection came back to what it had been.
     class HOST_EXPORT BatchSelectionModeScope
     {
     public:
@@ -51,8 +51,6 @@ public:
     void clear();
 
 private:
-    static void unlink(MO_Node* node);
-
     struct Private;
     std::unique_ptr<Private> d;
 };

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "referencehost/preferences/PreferenceValue.h"
 
+#include <algorithm>
 #include <limits>
 
 namespace {

@@ -16,6 +16,11 @@ constexpr int FirstFrame = 1;
 
 struct SC_CurrentFrameInterface::Private
 {
+    explicit Private(TUSceneChangeManager* manager)
+        : changeManager(manager)
+    {
+    }
+
     TUSceneChangeManager* changeManager;
     /// Weak, so that a scene never inherits the frame of one that was at the same address.
     std::map<UT_SharedWeakPtr<SC_SceneCommon>, int> frames;

@@ -6,6 +6,11 @@
 
 struct TUScene::Private
 {
+    explicit Private(TUSceneChangeManager* manager)
+        : changeManager(manager)
+    {
+    }
+
     TUSceneChangeManager* changeManager;
     MO_GroupModule root{QStringLiteral("Top")};
 };

@@ -6,12 +6,19 @@
 #include "referencehost/selection/SelectedElement.h"
 #include "referencehost/selection/SelectedNode.h"
 #include "referencehost/selection/SelectionChanges.h"
+#include "referencehost/selection/SelectionMembers.h"
 
 struct SL_Selection::Private
 {
     explicit Private(TUSceneChangeManager* changeManager)
-        : changes(changeManager, members)
+        : changes(changeManager)
     {
+    }
+
+    static void unlink(MO_Node* node)
+    {
+        node->d->selection = nullptr;
+        node->d->selInterface = nullptr;
     }
 
     SelectionMembers members;
@@ -40,7 +47,7 @@ SL_Selection::SL_Selection(TUSceneChangeManager* changeManager)
 SL_Selection::~SL_Selection()
 {
     for (const auto& [orderId, selected] : d->members)
-        unlink(selected->selectable());
+        Private::unlink(selected->selectable());
 }
 
 bool SL_Selection::empty() const
@@ -68,7 +75,6 @@ void SL_Selection::add(MO_Node* node)
         return;
     if (node->d->selection)
         node->d->selection->remove(node);
-    d->changes.aboutToChange();
 
     const unsigned int orderId = d->nextOrderId++;
     std::unique_ptr<SLB_NodeInterface> selected;
@@ -86,10 +92,9 @@ void SL_Selection::remove(MO_Node* node)
 {
     if (!node || node->d->selection != this)
         return;
-    d->changes.aboutToChange();
     const SLB_NodeInterface* selected = node->d->selInterface;
     const bool hadSubSelection = selected->hasSubSelection();
-    unlink(node);
+    Private::unlink(node);
     d->members.erase(selected->orderId());
     d->changes.selectionChanged();
     if (hadSubSelection)
@@ -100,20 +105,13 @@ void SL_Selection::clear()
 {
     if (d->members.empty())
         return;
-    d->changes.aboutToChange();
     bool hadSubSelection = false;
     for (const auto& [orderId, selected] : d->members) {
         hadSubSelection = hadSubSelection || selected->hasSubSelection();
-        unlink(selected->selectable());
+        Private::unlink(selected->selectable());
     }
     d->members.clear();
     d->changes.selectionChanged();
     if (hadSubSelection)
         d->changes.subSelectionChanged();
-}
-
-void SL_Selection::unlink(MO_Node* node)
-{
-    node->d->selection = nullptr;
-    node->d->selInterface = nullptr;
 }

@@ -47,7 +47,6 @@ void SelectedElement::subSelect(int id, bool additive)
     const bool isThere = _ids.contains(id);
     if (isThere && (additive || _ids.list().size() == 1))
         return;
-    _changes.aboutToChange();
     if (!additive)
         _ids.clear();
     _ids.add(id);
@@ -58,7 +57,6 @@ void SelectedElement::subDeselect(int id)
 {
     if (!_ids.contains(id))
         return;
-    _changes.aboutToChange();
     _ids.remove(id);
     _changes.subSelectionChanged();
 }
@@ -67,7 +65,6 @@ void SelectedElement::clearSubSelection()
 {
     if (_ids.empty())
         return;
-    _changes.aboutToChange();
     _ids.clear();
     _changes.subSelectionChanged();
 }

@@ -1,33 +1,28 @@
 // SPDX-License-Identifier: MIT
 #include "referencehost/selection/SelectionChanges.h"
 
-#include "host/scene/MO_Node.h"
 #include "host/scene/TUSceneChangeManager.h"
 
 #include <utility>
 
-SelectionChanges::SelectionChanges(TUSceneChangeManager* changeManager,
-                                   const SelectionMembers& members)
+SelectionChanges::SelectionChanges(TUSceneChangeManager* changeManager)
     : _changeManager(changeManager)
-    , _members(members)
 {
-}
-
-void SelectionChanges::aboutToChange()
-{
-    if (_openBatches > 0 && !_before)
-        _before = currentState();
 }
 
 void SelectionChanges::selectionChanged()
 {
-    if (_openBatches == 0)
+    if (_openBatches > 0)
+        _selectionChanged = true;
+    else
         _changeManager->emitSelectionChanged();
 }
 
 void SelectionChanges::subSelectionChanged()
 {
-    if (_openBatches == 0)
+    if (_openBatches > 0)
+        _subSelectionChanged = true;
+    else
         _changeManager->emitSubSelectionChanged();
 }
 
@@ -38,28 +33,14 @@ void SelectionChanges::beginBatch()
 
 void SelectionChanges::endBatch()
 {
-    if (--_openBatches > 0 || !_before)
+    if (--_openBatches > 0)
         return;
-    const State before = *std::exchange(_before, std::nullopt);
-    const State after = currentState();
-    const bool otherNodes = before.nodes != after.nodes;
-    const bool otherSubSelections = before.subSelections != after.subSelections;
+    const bool otherNodes = std::exchange(_selectionChanged, false);
+    const bool otherSubSelection = std::exchange(_subSelectionChanged, false);
     if (otherNodes)
         _changeManager->emitSelectionChanged();
-    if (otherSubSelections)
+    if (otherSubSelection)
         _changeManager->emitSubSelectionChanged();
-    if (otherNodes || otherSubSelections)
+    if (otherNodes || otherSubSelection)
         _changeManager->notify();
-}
-
-SelectionChanges::State SelectionChanges::currentState() const
-{
-    State state;
-    state.nodes.reserve(_members.size());
-    for (const auto& [orderId, selected] : _members) {
-        const UT_SharedWeakPtr<MO_Node>& node = state.nodes.emplace_back(selected->selectable());
-        if (selected->hasSubSelection())
-            state.subSelections.emplace(node, selected->subSelectedIds());
-    }
-    return state;
 }

@@ -13,6 +13,7 @@
 #include "host/scene/TUSceneChangeManager.h"
 #include "host/selection/SLB_NodeInterface.h"
 #include "host/selection/SL_Selection.h"
+#include "tests/graphview/ShownModels.h"
 
 GraphStage::GraphStage()
 {
@@ -52,9 +53,14 @@ MO_ElementModule& GraphStage::addElement(const QString& name,
     return added;
 }
 
-MO_ElementModule& GraphStage::addElement(const QString& name, const QString& description)
+MO_ElementModule& GraphStage::addElement(const QString& name)
 {
-    return addElement(name, model(description));
+    return addElement(name, robotModel());
+}
+
+MO_ElementModule& GraphStage::addEmptyElement(const QString& name)
+{
+    return addElement(name, CEL_SharedPtr<TD_CelVq3d>());
 }
 
 MO_Node& GraphStage::addPeg(const QString& name)
@@ -116,10 +122,7 @@ void GraphStage::notify()
 
 GV_UiNode* GraphStage::node(const QString& name)
 {
-    GV_UiNode* root = graph().rootUiNode();
-    if (root && root->name() == name)
-        return root;
-    for (GV_UiNode* node : treeNodes(graph())) {
+    for (GV_UiNode* node : preOrder(graph().rootUiNode())) {
         if (node->name() == name)
             return node;
     }
@@ -130,7 +133,7 @@ QStringList GraphStage::selectedNames()
 {
     QStringList names;
     for (const auto& [key, node] : graph().selectedNodes())
-        names.append(key.nodeName());
+        names.append(key.nodeName);
     names.sort();
     return names;
 }
@@ -145,4 +148,15 @@ QStringList GraphStage::headers()
         names.append(visible ? QLatin1Char('[') + node->name() + QLatin1Char(']') : node->name());
     }
     return names;
+}
+
+CEL_SharedPtr<TD_CelVq3d> robotModel()
+{
+    using namespace ModelBuilder;
+    return model(key("body", {key("arm", {shapedKey("hand")}), shapedKey("leg")}));
+}
+
+ModelBuilder::Part shapedKey(const ModelBuilder::Name& name)
+{
+    return ModelBuilder::key(name, {ModelBuilder::geometry(ModelBuilder::noName)});
 }

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/models/CEL_SharedPtr.h"
 #include "referencehost/session/HostSession.h"
+#include "tests/graphview/ModelBuilder.h"
 
 #include <QStringList>
-#include <initializer_list>
 #include <memory>
 #include <vector>
 
@@ -14,8 +13,6 @@ class GV_GraphXViewQt;
 class GV_UiNode;
 class MO_ElementModule;
 class MO_Node;
-class QRandomGenerator;
-class TD_CelVq3d;
 
 /// A session with an open scene and a graph view on it, and the moves that tests make there. Every
 /// move is told to the listeners before it returns.
@@ -36,10 +33,13 @@ public:
     /// A view beside the stage's own.
     std::unique_ptr<GV_GraphXViewQt> newView();
 
-    /// Shows the model from the first frame to the last; a null model makes an element without one.
+    /// Shows the model from the first frame to the last.
     MO_ElementModule& addElement(const QString& name, const CEL_SharedPtr<TD_CelVq3d>& model,
                                  int firstFrame = 1, int lastFrame = 1000);
-    MO_ElementModule& addElement(const QString& name, const QString& model);
+    /// Shows the robot.
+    MO_ElementModule& addElement(const QString& name);
+    /// An element that shows no model.
+    MO_ElementModule& addEmptyElement(const QString& name);
     MO_Node& addPeg(const QString& name);
     void remove(MO_Node& node);
 
@@ -65,21 +65,8 @@ private:
     std::unique_ptr<GV_GraphXViewQt> _view;
 };
 
-/// A model from a description: the names of its nodes, each followed by its children in round
-/// brackets if it has any. "body(arm(hand) leg)" describes key nodes; a '+' before a name makes a
-/// plain group, a '.' a shape. '_' stands for no name. Key nodes without children are given a
-/// nameless shape, so that the filtered display shows them.
-CEL_SharedPtr<TD_CelVq3d> model(const QString& description);
+/// A model of the key nodes body(arm(hand) leg).
+CEL_SharedPtr<TD_CelVq3d> robotModel();
 
-/// A model of about this many nodes of all kinds. Some names occur twice, some are long, some
-/// missing.
-CEL_SharedPtr<TD_CelVq3d> randomModel(QRandomGenerator& random, int nodes);
-
-/// One key node with this many others right below it, every tenth of which has a child of its own.
-CEL_SharedPtr<TD_CelVq3d> longModel(int rows);
-
-/// Every node of the visible tree, folded away or not, in pre-order and without the header.
-std::vector<GV_UiNode*> treeNodes(const GV_GraphUiInfo& graph);
-
-/// Folds some branches of the visible tree at random, without laying it out.
-void collapseSome(QRandomGenerator& random, const GV_GraphUiInfo& graph);
+/// A key node with a nameless shape, without which the filtered display leaves it out.
+ModelBuilder::Part shapedKey(const ModelBuilder::Name& name);

@@ -29,25 +29,27 @@ QString numbers(const QRectF& rect)
     return numbers({rect.x(), rect.y(), rect.width(), rect.height()});
 }
 
-/// A rectangle with round corners is told by its rectangle and radius, any other path by its
-/// elements.
-QString pathNumbers(const QPainterPath& path)
+/// The radius of the corners, when the path is a rectangle with round corners; 0 for any other.
+qreal cornerRadius(const QPainterPath& path)
 {
+    if (path.elementCount() == 0)
+        return 0;
     const QRectF rect = path.boundingRect();
-    if (path.elementCount() > 0) {
-        const qreal radius = path.elementAt(0).y - rect.y();
-        QPainterPath rounded;
-        rounded.addRoundedRect(rect, radius, radius, Qt::AbsoluteSize);
-        if (rounded == path)
-            return numbers(rect) + QStringLiteral(" radius ") + number(radius);
-    }
-    QStringList elements;
+    const qreal radius = path.elementAt(0).y - rect.y();
+    QPainterPath rounded;
+    rounded.addRoundedRect(rect, radius, radius, Qt::AbsoluteSize);
+    return rounded == path ? radius : 0;
+}
+
+QString elements(const QPainterPath& path)
+{
+    QStringList result;
     for (int i = 0; i < path.elementCount(); ++i) {
         const QPainterPath::Element element = path.elementAt(i);
-        elements.append(QString::number(element.type) + QLatin1Char(':') +
-                        numbers({element.x, element.y}));
+        result.append(QString::number(element.type) + QLatin1Char(':') +
+                      numbers({element.x, element.y}));
     }
-    return elements.join(QLatin1Char(' '));
+    return result.join(QLatin1Char(' '));
 }
 
 class Engine : public QPaintEngine
@@ -69,28 +71,28 @@ public:
         for (int i = 0; i < count; ++i) {
             RecordedCall& call = append(RecordedCall::Line);
             call.line = lines[i];
-            call.path.moveTo(lines[i].p1());
-            call.path.lineTo(lines[i].p2());
         }
     }
     void drawEllipse(const QRectF& rect) override
     {
         RecordedCall& call = append(RecordedCall::Ellipse);
         call.rect = rect;
-        call.path.addEllipse(rect);
     }
     void drawRects(const QRectF* rects, int count) override
     {
         for (int i = 0; i < count; ++i) {
             RecordedCall& call = append(RecordedCall::Rect);
             call.rect = rects[i];
-            call.path.addRect(rects[i]);
         }
     }
     void drawPath(const QPainterPath& path) override
     {
         RecordedCall& call = append(RecordedCall::Path);
-        call.rect = path.boundingRect();
+        call.radius = cornerRadius(path);
+        if (call.radius > 0) {
+            call.kind = RecordedCall::RoundedRect;
+            call.rect = path.boundingRect();
+        }
         call.path = path;
     }
     void drawTextItem(const QPointF& baseline, const QTextItem& item) override
@@ -140,8 +142,8 @@ private:
 
 QString RecordedCall::description() const
 {
-    const QString penName = pen.style() == Qt::SolidLine ? pen.color().name(QColor::HexArgb)
-                                                         : QStringLiteral("other");
+    const QString penName =
+        pen.style() == Qt::SolidLine ? pen.color().name(QColor::HexArgb) : QStringLiteral("other");
     const QString lines = QStringLiteral(" pen ") + penName;
     const QString fill = QStringLiteral(" brush ") + (brush.style() == Qt::SolidPattern
                                                           ? brush.color().name(QColor::HexArgb)
@@ -154,8 +156,11 @@ QString RecordedCall::description() const
         return QStringLiteral("ellipse ") + numbers(rect) + lines + fill;
     case Rect:
         return QStringLiteral("rect ") + numbers(rect) + lines + fill;
+    case RoundedRect:
+        return QStringLiteral("rounded ") + numbers(rect) + QStringLiteral(" radius ") +
+               number(radius) + lines + fill;
     case Path:
-        return QStringLiteral("path ") + pathNumbers(path) + lines + fill;
+        return QStringLiteral("path ") + elements(path) + lines + fill;
     case Text:
         return QStringLiteral("text '%1' at %2%3 font %4 %5")
             .arg(text, numbers({baseline.x(), baseline.y()}), lines, font.family())
@@ -206,6 +211,9 @@ void RecordingPaintDevice::replay(QPainter& painter) const
             painter.setFont(call.font);
             painter.drawText(call.baseline, call.text);
             break;
+        case RecordedCall::RoundedRect:
+            painter.drawRoundedRect(call.rect, call.radius, call.radius, Qt::AbsoluteSize);
+            break;
         case RecordedCall::Path:
         case RecordedCall::Other:
             painter.drawPath(call.path);
@@ -234,7 +242,10 @@ int RecordingPaintDevice::metric(PaintDeviceMetric metric) const
     case PdmPhysicalDpiX:
     case PdmPhysicalDpiY:
         return dotsPerInch;
-    default:
-        return QPaintDevice::metric(metric);
+    case PdmDevicePixelRatio:
+        return 1;
+    case PdmDevicePixelRatioScaled:
+        return qRound(devicePixelRatioFScale());
     }
+    return 0;
 }

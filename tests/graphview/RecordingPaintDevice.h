@@ -19,16 +19,18 @@ struct RecordedCall
         Line,
         Ellipse,
         Rect,
+        RoundedRect,
         Path,
         Text,
         Other
     };
 
     Kind kind = Other;
-    /// The outline of anything but a text.
-    QPainterPath path;
     QLineF line;
     QRectF rect;
+    /// Of the corners of a rounded rectangle.
+    qreal radius = 0;
+    QPainterPath path;
     QString text;
     /// Where the baseline of a text starts.
     QPointF baseline;
