@@ -87,9 +87,10 @@ MO_ElementModule* ModelLoader::addElement(const ImportResult& result)
     auto made =
         std::make_unique<MO_ElementModule>(freeName(group, QFileInfo(_path).completeBaseName()));
     MO_ElementModule* element = made.get();
+    // The drawing comes once the element is in the scene, so that listeners hear of both.
+    group.insertNode(std::move(made));
     element->exposeModel(firstFrame, lastFrame,
                          std::make_shared<TD_CelVq3d>(osg::NodePtr(result.root)));
-    group.insertNode(std::move(made));
 
     SL_Selection* selection = _session.context().selection();
     if (selection->empty()) {

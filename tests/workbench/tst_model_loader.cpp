@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 
+#include "graphview/GV_GraphXViewQt.h"
 #include "host/scene/MO_ElementModule.h"
 #include "host/scene/MO_GroupModule.h"
 #include "host/scene/SC_SessionContext.h"
@@ -11,6 +12,7 @@
 #include "workbench/WorkbenchWindow.h"
 
 #include <OpenSG/OSGBaseFunctions.h>
+#include <QApplication>
 #include <QFile>
 #include <QSignalSpy>
 #include <QStatusBar>
@@ -33,6 +35,7 @@ private slots:
     void a_file_that_fails_leaves_the_scene_as_it_was();
     void cancelling_forgets_what_waits();
     void the_window_shows_what_went_wrong();
+    void the_header_of_a_further_model_appears_by_itself();
     void the_progress_dialog_appears_only_for_long_work_and_cancels();
 
 private:
@@ -165,6 +168,30 @@ void tst_model_loader::the_window_shows_what_went_wrong()
     QVERIFY(window.statusBar()->currentMessage().contains("missing.obj"));
     loadAll(window.loader(), {model("arm.obj")});
     QVERIFY(window.statusBar()->currentMessage().contains("arm"));
+}
+
+void tst_model_loader::the_header_of_a_further_model_appears_by_itself()
+{
+    class PaintCounter : public QObject
+    {
+    public:
+        bool eventFilter(QObject*, QEvent* event) override
+        {
+            paints += event->type() == QEvent::Paint ? 1 : 0;
+            return false;
+        }
+        int paints = 0;
+    };
+
+    WorkbenchWindow window(*_session);
+    window.show();
+    loadAll(window.loader(), {model("arm.obj")});
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QApplication::processEvents();
+    PaintCounter counter;
+    window.graphView().viewport()->installEventFilter(&counter);
+    loadAll(window.loader(), {model("leg.obj")});
+    QTRY_VERIFY_WITH_TIMEOUT(counter.paints > 0, 5000);
 }
 
 void tst_model_loader::the_progress_dialog_appears_only_for_long_work_and_cancels()
