@@ -152,7 +152,7 @@ private:
     static QString calculateDisplayName(const QString& name);
     GraphInfo newGraphInfo(MO_ElementModule* element, const CEL_SharedPtr<TD_CelVq3d>& cel,
                            bool extendedDisplay) const;
-    void rememberSelected(const GV_UiHeaderNode* header);
+    void rememberSelectedHeaders();
     void deleteTree(GV_UiHeaderNode* root);
     void clearTree(GV_UiHeaderNode* root);
     void forgetSelectedNodes(GV_UiNode* root, bool includingRoot);

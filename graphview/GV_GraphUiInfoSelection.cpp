@@ -68,6 +68,9 @@ bool GV_GraphUiInfo::setFirstNodeWithNameSelected(GV_UiNode* start, const QStrin
 
 bool GV_GraphUiInfo::setHeaderNodeSelected(MO_ElementModule* element)
 {
+    // A header whose element is gone has a null element, too.
+    if (!element)
+        return false;
     const auto it = std::find_if(_graphs.begin(), _graphs.end(), [element](const GraphInfo& info) {
         return info.model.get() == element;
     });

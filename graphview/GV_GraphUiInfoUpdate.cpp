@@ -25,7 +25,6 @@ bool GV_GraphUiInfo::updateGraphUiInfo(const ModelList& models,
             });
         if (kept == _graphs.end()) {
             updated.push_back(newGraphInfo(element, cel, extendedDisplay));
-            rememberSelected(updated.back().rootNode);
             continue;
         }
         if (kept->extendedDisplay != extendedDisplay) {
@@ -46,6 +45,7 @@ bool GV_GraphUiInfo::updateGraphUiInfo(const ModelList& models,
     _visibleGraphIx = visibleIx;
     for (int ix = 0; ix < static_cast<int>(_graphs.size()); ++ix)
         _graphs[ix].rootNode->setGraphIx(ix);
+    rememberSelectedHeaders();
 
     if (GraphInfo* visible = visibleGraph(); visible && !visible->rootNode->hasChildren()) {
         buildUiNodeGraph(*visible, extendedDisplay);
@@ -75,13 +75,15 @@ GV_GraphUiInfo::GraphInfo GV_GraphUiInfo::newGraphInfo(MO_ElementModule* element
     return info;
 }
 
-void GV_GraphUiInfo::rememberSelected(const GV_UiHeaderNode* header)
+void GV_GraphUiInfo::rememberSelectedHeaders()
 {
     // An element that comes back, for one because the frame has a drawing for it again, is as
     // selected as it was when its header went.
-    const auto it = _selectedNodes.find(GV_UiNodeKey(header));
-    if (it != _selectedNodes.end() && !it->second)
-        it->second = header;
+    for (const GraphInfo& info : _graphs) {
+        const auto it = _selectedNodes.find(GV_UiNodeKey(info.rootNode));
+        if (it != _selectedNodes.end() && !it->second)
+            it->second = info.rootNode;
+    }
 }
 
 void GV_GraphUiInfo::updateHeaderNodesName(std::set<GV_UiHeaderNode*> headers)

@@ -29,13 +29,17 @@ void GV_ShownRows::start(GV_UiNode* root)
 {
     _root = root;
     _nodes.clear();
+    _inOrder = true;
+}
+
+void GV_ShownRows::append(GV_UiNode* node)
+{
+    _inOrder &= node->row() == static_cast<int>(_nodes.size());
+    _nodes.push_back(node);
 }
 
 void GV_ShownRows::finish()
 {
-    _inOrder = true;
-    for (std::size_t i = 0; i < _nodes.size() && _inOrder; ++i)
-        _inOrder = _nodes[i]->row() == static_cast<int>(i);
     _treeRevision = GV_UiNode::treeRevision();
     _layoutRevision = GV_UiNode::layoutRevision();
 }

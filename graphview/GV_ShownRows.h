@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <SubnodeViewsExport.h>
+
 #include <cstdint>
 #include <vector>
 
@@ -9,7 +11,7 @@ class GV_UiNode;
 /// The nodes of a tree that are not folded away, in pre-order: after layout, each at the position
 /// of its row. Finds the node of a row without a search, and notices when the tree has changed
 /// since. Owns nothing.
-class GV_ShownRows
+class SUBNODEVIEWS_EXPORT GV_ShownRows
 {
 public:
     /// Whether the rows are those of this root, as its tree is now.
@@ -21,7 +23,7 @@ public:
     /// For the layout, which meets the shown nodes in order anyway: start, then append each node
     /// after its counts were set, then finish.
     void start(GV_UiNode* root);
-    void append(GV_UiNode* node) { _nodes.push_back(node); }
+    void append(GV_UiNode* node);
     void finish();
 
     const std::vector<GV_UiNode*>& nodes() const { return _nodes; }

@@ -105,7 +105,14 @@ private slots:
         _models.reset();
     }
 
-    // First of all, since the values at start-up are gone with the first load.
+    // These two come first, since the values at start-up are gone with the first load.
+    void fontFitsTheScreenThatNamesAreMeasuredFor()
+    {
+        const QFont fresh(QStringLiteral("Courier"), 10);
+        QCOMPARE(QFontMetrics(GV_GraphUiInfo::font()).horizontalAdvance(QStringLiteral("name")),
+                 QFontMetrics(fresh).horizontalAdvance(QStringLiteral("name")));
+    }
+
     void valuesAtStartUpEqualTheDefaults()
     {
         for (const Colour& each : colours)
@@ -266,13 +273,6 @@ private slots:
         QVERIFY(graph().loadPreferences());
         QCOMPARE(GV_GraphUiInfo::font().family(), QStringLiteral("DejaVu Serif"));
         QVERIFY(!graph().loadPreferences());
-    }
-
-    void fontFitsTheScreenThatNamesAreMeasuredFor()
-    {
-        const QFont fresh(QStringLiteral("Courier"), 10);
-        QCOMPARE(QFontMetrics(GV_GraphUiInfo::font()).horizontalAdvance(QStringLiteral("name")),
-                 QFontMetrics(fresh).horizontalAdvance(QStringLiteral("name")));
     }
 };
 

@@ -137,6 +137,17 @@ private slots:
         QCOMPARE(valueOf(key), _models->header(1));
     }
 
+    void headerThatReplacesOneOfItsNameBearsItsKey()
+    {
+        ShownModels models;
+        MO_ElementModule* old = models.add(QStringLiteral("Car"), model(key("wheel")));
+        models.show({old}, nullptr);
+        QVERIFY(models.graph.setHeaderNodeSelected(old));
+        MO_ElementModule* young = models.add(QStringLiteral("Car"), model(key("wheel")));
+        models.show({young}, nullptr);
+        QCOMPARE(models.graph.selectedNodes().at(GV_UiNodeKey(models.header(0))), models.header(0));
+    }
+
     void newHeaderDoesNotTakeAKeyFromOneThatIsShown()
     {
         graph().setHeaderNodeSelected(_car);

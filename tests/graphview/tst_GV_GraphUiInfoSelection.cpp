@@ -165,6 +165,16 @@ private slots:
         QCOMPARE(selectedNode(_models->header(0)), _models->header(0));
     }
 
+    void noHeaderIsSelectedForNoElement()
+    {
+        ShownModels models;
+        MO_ElementModule* car = models.add(QStringLiteral("Car"), model(key("wheel")));
+        models.show({car}, nullptr);
+        models.remove(car);
+        QVERIFY(!models.graph.setHeaderNodeSelected(nullptr));
+        QVERIFY(models.graph.selectedNodes().empty());
+    }
+
     void firstHeaderIsSelectedForAnElementShownTwice()
     {
         _models->show({_robot, _car, _car}, _robot);

@@ -5,10 +5,10 @@
 #include "graphview/GV_GraphXViewCtrl.h"
 #include "graphview/GV_GraphXViewQt.h"
 #include "host/scene/MO_ElementModule.h"
-#include "tests/graphview/GraphStage.h"
 #include "tests/graphview/PaintedCalls.h"
 #include "tests/graphview/RecordingPaintDevice.h"
 #include "tests/graphview/ShownModels.h"
+#include "tests/graphview/StageTest.h"
 
 #include <OpenSG/OSGBaseFunctions.h>
 #include <QPainter>
@@ -19,38 +19,19 @@ using namespace ModelBuilder;
 using namespace PaintedCalls;
 
 /// What is painted, call by call.
-class tst_GV_GraphXMainItem : public QObject
+class tst_GV_GraphXMainItem : public StageTest
 {
     Q_OBJECT
 
 private:
-    std::unique_ptr<GraphStage> _stage;
-
-    GV_GraphXViewCtrl* controller() { return _stage->view().controller(); }
-
     /// What an item that draws everything paints with a pen of the given colour.
     QStringList painted(const QTransform& transform = {}, const QColor& penColor = Qt::black)
     {
         GV_GraphXMainItem item(controller(), true);
         return PaintedCalls::painted(item, transform, penColor);
     }
-    MO_ElementModule& addSelected(const CEL_SharedPtr<TD_CelVq3d>& model)
-    {
-        MO_ElementModule& element = _stage->addElement(QStringLiteral("robot"), model);
-        _stage->view();
-        _stage->select({&element});
-        return element;
-    }
 
 private slots:
-    void initTestCase() { QVERIFY(osg::osgInit(0, nullptr)); }
-    void init()
-    {
-        QTest::failOnWarning(QRegularExpression(QStringLiteral(".?")));
-        _stage = std::make_unique<GraphStage>();
-    }
-    void cleanup() { _stage.reset(); }
-
     void paints_lines_then_headers_then_boxes()
     {
         MO_ElementModule& element = addSelected(robotModel());

@@ -6,10 +6,10 @@
 #include "graphview/GV_GraphXViewQt.h"
 #include "host/preferences/PR_Preference.h"
 #include "host/scene/MO_ElementModule.h"
-#include "tests/graphview/GraphStage.h"
 #include "tests/graphview/PaintedCalls.h"
 #include "tests/graphview/RecordingPaintDevice.h"
 #include "tests/graphview/ShownModels.h"
+#include "tests/graphview/StageTest.h"
 
 #include <OpenSG/OSGBaseFunctions.h>
 #include <QPainter>
@@ -40,36 +40,19 @@ public:
 } // namespace
 
 /// The pens, names and colours that a graph is painted with.
-class tst_GV_GraphXMainItemLook : public QObject
+class tst_GV_GraphXMainItemLook : public StageTest
 {
     Q_OBJECT
 
 private:
-    std::unique_ptr<GraphStage> _stage;
-
-    GV_GraphXViewCtrl* controller() { return _stage->view().controller(); }
-
     /// What an item that draws everything paints with a pen of the given colour.
     QStringList painted(const QTransform& transform = {}, const QColor& penColor = Qt::black)
     {
         GV_GraphXMainItem item(controller(), true);
         return PaintedCalls::painted(item, transform, penColor);
     }
-    MO_ElementModule& addSelected(const CEL_SharedPtr<TD_CelVq3d>& model)
-    {
-        MO_ElementModule& element = _stage->addElement(QStringLiteral("robot"), model);
-        _stage->view();
-        _stage->select({&element});
-        return element;
-    }
 
 private slots:
-    void initTestCase() { QVERIFY(osg::osgInit(0, nullptr)); }
-    void init()
-    {
-        QTest::failOnWarning(QRegularExpression(QStringLiteral(".?")));
-        _stage = std::make_unique<GraphStage>();
-    }
     void cleanup()
     {
         for (const QString& key : {lineColorKey, fontKey})

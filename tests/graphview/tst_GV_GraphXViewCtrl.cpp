@@ -8,9 +8,8 @@
 #include "host/scene/MO_GroupModule.h"
 #include "host/scene/TUSceneChangeManager.h"
 #include "host/selection/SLB_NodeInterface.h"
-#include "tests/graphview/GraphStage.h"
-#include "tests/graphview/RepaintCounter.h"
 #include "tests/graphview/ShownModels.h"
+#include "tests/graphview/StageTest.h"
 
 #include <OpenSG/OSGBaseFunctions.h>
 #include <QRegularExpression>
@@ -23,39 +22,18 @@ using namespace ModelBuilder;
 } // namespace
 
 /// What the host tells, and what the view then shows.
-class tst_GV_GraphXViewCtrl : public QObject
+class tst_GV_GraphXViewCtrl : public StageTest
 {
     Q_OBJECT
 
 private:
-    std::unique_ptr<GraphStage> _stage;
-
-    GV_GraphXViewCtrl& controller() { return *_stage->view().controller(); }
     QString tree()
     {
         const GV_UiNode* root = _stage->graph().rootUiNode();
         return root ? outline(root) : QString();
     }
-    /// Shows the view and counts how often it is painted during the action.
-    template <class Action>
-    int repaints(const Action& action)
-    {
-        _stage->view().resize(600, 400);
-        _stage->view().show();
-        if (!QTest::qWaitForWindowExposed(&_stage->view()))
-            return -1;
-        return RepaintCounter(_stage->view()).countDuring(action);
-    }
 
 private slots:
-    void initTestCase() { QVERIFY(osg::osgInit(0, nullptr)); }
-    void init()
-    {
-        QTest::failOnWarning(QRegularExpression(QStringLiteral(".?")));
-        _stage = std::make_unique<GraphStage>();
-    }
-    void cleanup() { _stage.reset(); }
-
     void shows_nothing_before_it_is_told()
     {
         MO_ElementModule& element = _stage->addElement(QStringLiteral("robot"));
@@ -74,7 +52,7 @@ private slots:
             [] { PR_Preference::instance()->reset(QStringLiteral("GV_EXTENDED_DISPLAY")); });
         _stage->select(
             {&_stage->addElement(QStringLiteral("robot"), model(group("a", {geometry("b")})))});
-        QVERIFY(controller().isExtendedDisplay());
+        QVERIFY(controller()->isExtendedDisplay());
         QCOMPARE(tree(), QStringLiteral("robot(a(b))"));
     }
 
@@ -115,7 +93,7 @@ private slots:
         _stage->select({&b, &a});
         _stage->goToFrame(2);
         QCOMPARE(_stage->headers(), QStringList({QStringLiteral("[a]"), QStringLiteral("b")}));
-        controller().selectionChanged();
+        controller()->selectionChanged();
         QCOMPARE(_stage->headers(), QStringList({QStringLiteral("a"), QStringLiteral("[b]")}));
     }
 
@@ -126,7 +104,7 @@ private slots:
         _stage->view();
         _stage->select({&b, &a});
         _stage->goToFrame(2);
-        const auto change = [this] { controller().networkChanged(); };
+        const auto change = [this] { controller()->networkChanged(); };
         QVERIFY(repaints(change) > 0);
         QCOMPARE(_stage->headers(), QStringList({QStringLiteral("a"), QStringLiteral("[b]")}));
         QCOMPARE(repaints(change), 0);
@@ -188,7 +166,7 @@ private slots:
         arm->setCollapsed(true);
         _stage->graph().clearSelection(false);
         QCOMPARE(repaints([&] { _stage->goToFrame(2); }), 0);
-        QCOMPARE(repaints([&] { controller().networkChanged(); }), 0);
+        QCOMPARE(repaints([&] { controller()->networkChanged(); }), 0);
         QVERIFY(_stage->selectedNames().isEmpty());
         QCOMPARE(_stage->node(QStringLiteral("arm")), arm);
         QVERIFY(arm->isCollapsed());
@@ -205,7 +183,7 @@ private slots:
         QVERIFY(_stage->selectedNames().isEmpty());
         // The same when nothing but a mark has to go.
         _stage->graph().setHeaderNodeSelected(&element);
-        QVERIFY(repaints([&] { controller().selectionChanged(); }) > 0);
+        QVERIFY(repaints([&] { controller()->selectionChanged(); }) > 0);
         QVERIFY(_stage->selectedNames().isEmpty());
         QCOMPARE(_stage->headers(), QStringList(QStringLiteral("robot")));
     }
@@ -227,7 +205,7 @@ private slots:
         _stage->select({&element});
         _stage->select({});
         _stage->graph().setHeaderNodeSelected(&element);
-        QCOMPARE(repaints([&] { controller().subSelectionChanged(); }), 0);
+        QCOMPARE(repaints([&] { controller()->subSelectionChanged(); }), 0);
         QVERIFY(_stage->selectedNames().isEmpty());
     }
 

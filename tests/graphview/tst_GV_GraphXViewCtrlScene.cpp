@@ -7,41 +7,18 @@
 #include "host/scene/MO_GroupModule.h"
 #include "host/scene/TUSceneChangeManager.h"
 #include "host/selection/SL_Selection.h"
-#include "tests/graphview/GraphStage.h"
-#include "tests/graphview/RepaintCounter.h"
+#include "tests/graphview/StageTest.h"
 
 #include <OpenSG/OSGBaseFunctions.h>
 #include <QRegularExpression>
 #include <QTest>
 
 /// Scenes, elements and names that come, change and go while a view looks at them.
-class tst_GV_GraphXViewCtrlScene : public QObject
+class tst_GV_GraphXViewCtrlScene : public StageTest
 {
     Q_OBJECT
 
-private:
-    std::unique_ptr<GraphStage> _stage;
-
-    GV_GraphXViewCtrl& controller() { return *_stage->view().controller(); }
-    template <class Action>
-    int repaints(const Action& action)
-    {
-        _stage->view().resize(600, 400);
-        _stage->view().show();
-        if (!QTest::qWaitForWindowExposed(&_stage->view()))
-            return -1;
-        return RepaintCounter(_stage->view()).countDuring(action);
-    }
-
 private slots:
-    void initTestCase() { QVERIFY(osg::osgInit(0, nullptr)); }
-    void init()
-    {
-        QTest::failOnWarning(QRegularExpression(QStringLiteral(".?")));
-        _stage = std::make_unique<GraphStage>();
-    }
-    void cleanup() { _stage.reset(); }
-
     void a_renamed_element_renames_its_header_and_repaints()
     {
         MO_ElementModule& element = _stage->addElement(QStringLiteral("robot"));
@@ -117,10 +94,10 @@ private slots:
         }
         gone.insert(UT_SharedWeakPtr<MO_Node>());
         QCOMPARE(repaints([&] {
-                     controller().nodesChanged(gone);
-                     controller().nodesNameChanged(gone);
-                     controller().nodesChanged({});
-                     controller().nodesNameChanged({});
+                     controller()->nodesChanged(gone);
+                     controller()->nodesNameChanged(gone);
+                     controller()->nodesChanged({});
+                     controller()->nodesNameChanged({});
                  }),
                  0);
     }
@@ -161,13 +138,13 @@ private slots:
         element.parentGroup()->takeNode(&element).reset();
         QCOMPARE(_stage->headers(), QStringList(QStringLiteral("[robot]")));
         QVERIFY(!_stage->graph().visibleGraphModelNode());
-        QCOMPARE(repaints([&] { controller().subSelectionChanged(); }), 0);
-        controller().nodesChanged({});
-        controller().nodesNameChanged({});
-        controller().currentFrameChanged();
+        QCOMPARE(repaints([&] { controller()->subSelectionChanged(); }), 0);
+        controller()->nodesChanged({});
+        controller()->nodesNameChanged({});
+        controller()->currentFrameChanged();
         QVERIFY(_stage->headers().isEmpty());
-        controller().networkChanged();
-        controller().selectionChanged();
+        controller()->networkChanged();
+        controller()->selectionChanged();
         QVERIFY(_stage->selectedNames().isEmpty());
     }
 
@@ -197,7 +174,7 @@ private slots:
     void without_a_scene_every_notice_leaves_the_view_empty()
     {
         _stage->session().closeScene();
-        GV_GraphXViewCtrl& control = controller();
+        GV_GraphXViewCtrl& control = *controller();
         const std::vector<std::function<void()>> notices{
             [&] { control.selectionChanged(); },      [&] { control.subSelectionChanged(); },
             [&] { control.currentFrameChanged(); },   [&] { control.networkChanged(); },
@@ -223,7 +200,7 @@ private slots:
         MO_ElementModule& element = _stage->addElement(QStringLiteral("robot"));
         _stage->view();
         _stage->select({&element});
-        controller().currentSceneChanged(nullptr);
+        controller()->currentSceneChanged(nullptr);
         QCOMPARE(_stage->headers(), QStringList(QStringLiteral("[robot]")));
     }
 
@@ -235,9 +212,9 @@ private slots:
         auto element = std::make_unique<MO_ElementModule>(QStringLiteral("prop"));
         element->exposeModel(1, 1, robotModel());
         aside.rootGroup()->insertNode(std::move(element));
-        controller().currentSceneChanged(&aside);
+        controller()->currentSceneChanged(&aside);
         QCOMPARE(_stage->headers(), QStringList(QStringLiteral("prop")));
-        controller().currentSceneChanged(&_stage->scene());
+        controller()->currentSceneChanged(&_stage->scene());
         QCOMPARE(_stage->headers(), QStringList(QStringLiteral("robot")));
     }
 

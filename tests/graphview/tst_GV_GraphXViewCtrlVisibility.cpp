@@ -9,8 +9,8 @@
 #include "host/scene/MO_ElementModule.h"
 #include "host/scene/MO_GroupModule.h"
 #include "host/selection/SLB_NodeInterface.h"
-#include "tests/graphview/GraphStage.h"
 #include "tests/graphview/ShownModels.h"
+#include "tests/graphview/StageTest.h"
 
 #include <OpenSG/OSGBaseFunctions.h>
 #include <QRandomGenerator>
@@ -42,31 +42,22 @@ bool leadsToSelected(const GV_GraphUiInfo::SelectedNodeMap& selected, const GV_U
 } // namespace
 
 /// Which subnodes are on and which are off.
-class tst_GV_GraphXViewCtrlVisibility : public QObject
+class tst_GV_GraphXViewCtrlVisibility : public StageTest
 {
     Q_OBJECT
 
 private:
-    std::unique_ptr<GraphStage> _stage;
-
-    GV_GraphXViewCtrl& controller() { return *_stage->view().controller(); }
     bool isHidden(const QString& name)
     {
         const GV_UiNode* node = _stage->node(name);
-        const bool hidden = controller().nodeHasState(Hidden, node);
-        return hidden != controller().nodeHasState(Visible, node) && hidden;
+        const bool hidden = controller()->nodeHasState(Hidden, node);
+        return hidden != controller()->nodeHasState(Visible, node) && hidden;
     }
     bool isVisible(const QString& name)
     {
         const GV_UiNode* node = _stage->node(name);
-        return controller().nodeHasState(Visible, node) && !controller().nodeHasState(Hidden, node);
-    }
-    MO_ElementModule& addSelected(const CEL_SharedPtr<TD_CelVq3d>& model)
-    {
-        MO_ElementModule& element = _stage->addElement(QStringLiteral("robot"), model);
-        _stage->view();
-        _stage->select({&element});
-        return element;
+        return controller()->nodeHasState(Visible, node) &&
+               !controller()->nodeHasState(Hidden, node);
     }
     std::vector<GV_UiNode*> subnodes()
     {
@@ -83,12 +74,6 @@ private:
     }
 
 private slots:
-    void initTestCase() { QVERIFY(osg::osgInit(0, nullptr)); }
-    void init()
-    {
-        QTest::failOnWarning(QRegularExpression(QStringLiteral(".?")));
-        _stage = std::make_unique<GraphStage>();
-    }
     void cleanup()
     {
         _stage.reset();
@@ -146,11 +131,11 @@ private slots:
         _stage->graph().headerNodes(headers);
 
         _stage->setVisible(a, {QStringLiteral("b")}, false);
-        QVERIFY(!controller().nodeHasState(Hidden, headers[1]));
-        QVERIFY(controller().nodeHasState(Visible, headers[1]));
+        QVERIFY(!controller()->nodeHasState(Hidden, headers[1]));
+        QVERIFY(controller()->nodeHasState(Visible, headers[1]));
         _stage->setVisible(b, {QStringLiteral("b")}, false);
-        QVERIFY(controller().nodeHasState(Hidden, headers[1]));
-        QVERIFY(controller().nodeHasState(Visible, headers[0]));
+        QVERIFY(controller()->nodeHasState(Hidden, headers[1]));
+        QVERIFY(controller()->nodeHasState(Visible, headers[0]));
         // Tree nodes are looked up in the settings of the open element.
         _stage->setVisible(b, {QStringLiteral("arm")}, false);
         QVERIFY(isVisible(QStringLiteral("arm")));
@@ -160,13 +145,13 @@ private slots:
     {
         MO_ElementModule& element = addSelected(robotModel());
         const GV_UiSgNode node(nullptr, QStringLiteral("arm"), QString(), osg::NodePtr(), true);
-        QVERIFY(controller().nodeHasState(Visible, &node));
+        QVERIFY(controller()->nodeHasState(Visible, &node));
         element.parentGroup()->takeNode(&element).reset();
         for (const auto state : {Hidden, Visible}) {
-            QVERIFY(!controller().nodeHasState(state, &node));
-            QVERIFY(!controller().nodeHasState(state, _stage->graph().rootUiNode()));
-            QVERIFY(!controller().hasSelectedSubNodeWithState(state));
-            QVERIFY(!controller().hasUnSelectedSubNodeWithState(state));
+            QVERIFY(!controller()->nodeHasState(state, &node));
+            QVERIFY(!controller()->nodeHasState(state, _stage->graph().rootUiNode()));
+            QVERIFY(!controller()->hasSelectedSubNodeWithState(state));
+            QVERIFY(!controller()->hasUnSelectedSubNodeWithState(state));
         }
     }
 
@@ -175,9 +160,9 @@ private slots:
         _stage->addElement(QStringLiteral("robot"));
         const GV_UiSgNode node(nullptr, QStringLiteral("arm"), QString(), osg::NodePtr(), true);
         for (const auto state : {Hidden, Visible}) {
-            QVERIFY(!controller().nodeHasState(state, &node));
-            QVERIFY(!controller().hasSelectedSubNodeWithState(state));
-            QVERIFY(!controller().hasUnSelectedSubNodeWithState(state));
+            QVERIFY(!controller()->nodeHasState(state, &node));
+            QVERIFY(!controller()->hasSelectedSubNodeWithState(state));
+            QVERIFY(!controller()->hasUnSelectedSubNodeWithState(state));
         }
     }
 
@@ -186,14 +171,14 @@ private slots:
         MO_ElementModule& element = addSelected(robotModel());
         _stage->setVisible(element, {QStringLiteral("arm"), QStringLiteral("robot")}, false);
         // A header is no subnode, hidden or not.
-        QVERIFY(!controller().hasSelectedSubNodeWithState(Hidden));
-        QVERIFY(!controller().hasSelectedSubNodeWithState(Visible));
+        QVERIFY(!controller()->hasSelectedSubNodeWithState(Hidden));
+        QVERIFY(!controller()->hasSelectedSubNodeWithState(Visible));
         _stage->subSelect(element, {QStringLiteral("leg")});
-        QVERIFY(!controller().hasSelectedSubNodeWithState(Hidden));
-        QVERIFY(controller().hasSelectedSubNodeWithState(Visible));
+        QVERIFY(!controller()->hasSelectedSubNodeWithState(Hidden));
+        QVERIFY(controller()->hasSelectedSubNodeWithState(Visible));
         _stage->subSelect(element, {QStringLiteral("arm")});
-        QVERIFY(controller().hasSelectedSubNodeWithState(Hidden));
-        QVERIFY(controller().hasSelectedSubNodeWithState(Visible));
+        QVERIFY(controller()->hasSelectedSubNodeWithState(Hidden));
+        QVERIFY(controller()->hasSelectedSubNodeWithState(Visible));
     }
 
     void selected_subnodes_need_not_be_editable()
@@ -203,7 +188,7 @@ private slots:
             addSelected(model(key("body", {group("plain", {shapedKey("arm")})})));
         _stage->setVisible(element, {QStringLiteral("plain")}, false);
         mark({_stage->node(QStringLiteral("plain"))});
-        QVERIFY(controller().hasSelectedSubNodeWithState(Hidden));
+        QVERIFY(controller()->hasSelectedSubNodeWithState(Hidden));
     }
 
     void without_settings_the_first_selected_entry_answers_for_all()
@@ -223,8 +208,8 @@ private slots:
             const bool first =
                 !some.empty() && _stage->graph().selectedNodes().begin()->second->isSgNode();
             headerCameFirst = headerCameFirst || (!first && some.size() > 1);
-            QCOMPARE(controller().hasSelectedSubNodeWithState(Visible), first);
-            QVERIFY(!controller().hasSelectedSubNodeWithState(Hidden));
+            QCOMPARE(controller()->hasSelectedSubNodeWithState(Visible), first);
+            QVERIFY(!controller()->hasSelectedSubNodeWithState(Hidden));
         }
         QVERIFY(headerCameFirst);
     }
@@ -233,14 +218,14 @@ private slots:
     {
         MO_ElementModule& element = addSelected(robotModel());
         _stage->subSelect(element, {QStringLiteral("hand"), QStringLiteral("leg")});
-        QVERIFY(!controller().hasUnSelectedSubNodeWithState(Visible));
+        QVERIFY(!controller()->hasUnSelectedSubNodeWithState(Visible));
         element.selInterface()->subDeselect(4);
         _stage->notify();
-        QVERIFY(controller().hasUnSelectedSubNodeWithState(Visible));
-        QVERIFY(!controller().hasUnSelectedSubNodeWithState(Hidden));
+        QVERIFY(controller()->hasUnSelectedSubNodeWithState(Visible));
+        QVERIFY(!controller()->hasUnSelectedSubNodeWithState(Hidden));
         _stage->setVisible(element, {QStringLiteral("leg")}, false);
-        QVERIFY(!controller().hasUnSelectedSubNodeWithState(Visible));
-        QVERIFY(controller().hasUnSelectedSubNodeWithState(Hidden));
+        QVERIFY(!controller()->hasUnSelectedSubNodeWithState(Visible));
+        QVERIFY(controller()->hasUnSelectedSubNodeWithState(Hidden));
     }
 
     void unselected_subnodes_come_to_what_a_plain_search_finds()
@@ -270,10 +255,10 @@ private slots:
                 bool found = false;
                 for (const GV_UiNode* node : subnodes()) {
                     found =
-                        found || (node->isEditable() && controller().nodeHasState(state, node) &&
+                        found || (node->isEditable() && controller()->nodeHasState(state, node) &&
                                   !leadsToSelected(_stage->graph().selectedNodes(), node));
                 }
-                QCOMPARE(controller().hasUnSelectedSubNodeWithState(state), found);
+                QCOMPARE(controller()->hasUnSelectedSubNodeWithState(state), found);
                 ++answers[found];
             }
         }

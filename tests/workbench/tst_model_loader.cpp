@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 
+#include "graphview/GV_GraphXViewCtrl.h"
 #include "graphview/GV_GraphXViewQt.h"
 #include "host/scene/MO_ElementModule.h"
 #include "host/scene/MO_GroupModule.h"
@@ -183,14 +184,17 @@ void tst_model_loader::the_header_of_a_further_model_appears_by_itself()
         int paints = 0;
     };
 
-    WorkbenchWindow window(*_session);
-    window.show();
-    loadAll(window.loader(), {model("arm.obj")});
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    SC_SessionContext& context = _session->context();
+    GV_GraphXViewQt view(context.actionManager(), nullptr, &context);
+    view.init(new GV_GraphXViewCtrl(&view, &context));
+    view.show();
+    ModelLoader loader(*_session);
+    loadAll(loader, {model("arm.obj")});
+    QVERIFY(QTest::qWaitForWindowExposed(&view));
     QApplication::processEvents();
     PaintCounter counter;
-    window.graphView().viewport()->installEventFilter(&counter);
-    loadAll(window.loader(), {model("leg.obj")});
+    view.viewport()->installEventFilter(&counter);
+    loadAll(loader, {model("leg.obj")});
     QTRY_VERIFY_WITH_TIMEOUT(counter.paints > 0, 5000);
 }
 
