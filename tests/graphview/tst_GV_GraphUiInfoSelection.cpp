@@ -1,45 +1,17 @@
 // SPDX-License-Identifier: MIT
 
-#include "tests/graphview/ModelBuilder.h"
-#include "tests/graphview/ShownModels.h"
+#include "tests/graphview/CarAndRobotTest.h"
 
 #include <QRegularExpression>
 #include <QTest>
 
 using namespace ModelBuilder;
 
-class tst_GV_GraphUiInfoSelection : public QObject
+class tst_GV_GraphUiInfoSelection : public CarAndRobotTest
 {
     Q_OBJECT
 
-private:
-    std::unique_ptr<ShownModels> _models;
-    MO_ElementModule* _car = nullptr;
-    MO_ElementModule* _robot = nullptr;
-
-    GV_GraphUiInfo& graph() { return _models->graph; }
-
-    GV_UiNode* node(const char* name) const { return _models->node(QString::fromLatin1(name)); }
-
-    const GV_UiNode* selectedNode(const GV_UiNode* bearer)
-    {
-        return graph().selectedNodes().at(GV_UiNodeKey(bearer));
-    }
-
 private slots:
-    void init()
-    {
-        QTest::failOnWarning(QRegularExpression(QStringLiteral(".?")));
-        _models = std::make_unique<ShownModels>();
-        _car = _models->add(QStringLiteral("Car"), model(key("wheel", {geometry("w")})));
-        _robot = _models->add(QStringLiteral("Robot"),
-                              model(group("g", {key("arm", {key("hand", {geometry("skin")})}),
-                                                key("leg", {key("hand", {geometry("skin")})})})));
-        _models->show({_car, _robot}, _robot);
-    }
-
-    void cleanup() { _models.reset(); }
-
     void nodeIsSelectedByItsKey()
     {
         QVERIFY(!graph().isSubNodeSelected(node("arm")));
