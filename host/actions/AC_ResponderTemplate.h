@@ -16,6 +16,10 @@ public:
 
     QString responderIdentity() const override;
     AC_Responder* parentResponder() override;
+    /// This class has no slots of its own, so these handle nothing; perform() asks the parent.
+    AC_Result handleEvent(QEvent* event) override;
+    AC_Result perform(AC_ActionInfo* info) override;
+    AC_Result performDownToChildren(AC_ActionInfo* info) override;
 
     /// Registers with the manager, and leaves the one before. Null only leaves. A manager that dies
     /// first is left by then.

@@ -20,8 +20,10 @@ public:
 
     bool getBoolValue(const QString& key, bool defaultValue) const;
     int getIntValue(const QString& key, int defaultValue) const;
-    /// A choice from a list, by its index; kept as an integer.
-    int getEnum(const QString& key, int defaultValue = 0) const;
+    /// A choice from a list, by its index; kept as an integer. Without a default the store's own
+    /// for that key is meant, or 0 where it has none.
+    int getEnum(const QString& key) const;
+    int getEnum(const QString& key, int defaultValue) const;
     /// A colour, packed as alpha, red, green, blue from the top byte down.
     unsigned int getRgbaValue(const QString& key, unsigned int defaultValue) const;
     /// A font family; an empty one reads as the default.

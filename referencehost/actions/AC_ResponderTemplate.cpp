@@ -23,6 +23,22 @@ AC_Responder* AC_ResponderTemplate::parentResponder()
     return nullptr;
 }
 
+AC_Result AC_ResponderTemplate::handleEvent(QEvent*)
+{
+    return AC_NotHandled;
+}
+
+AC_Result AC_ResponderTemplate::perform(AC_ActionInfo* info)
+{
+    AC_Responder* parent = parentResponder();
+    return parent ? parent->perform(info) : AC_NotHandled;
+}
+
+AC_Result AC_ResponderTemplate::performDownToChildren(AC_ActionInfo*)
+{
+    return AC_NotHandled;
+}
+
 void AC_ResponderTemplate::initActionManager(AC_Manager* manager)
 {
     // Registering again would lose the place in the order of registration.

@@ -5,6 +5,18 @@
 
 #include <QSettings>
 
+namespace {
+
+/// In which corner overviews of a canvas open: the bottom right, where they cover least.
+constexpr int bottomRightCorner = 3;
+
+int ownDefault(const QString& key)
+{
+    return key == QLatin1String("GV_WORLD_VIEW_STARTING_CORNER") ? bottomRightCorner : 0;
+}
+
+} // namespace
+
 struct PR_Preference::Private
 {
     QSettings settings;
@@ -39,6 +51,11 @@ bool PR_Preference::getBoolValue(const QString& key, bool defaultValue) const
 int PR_Preference::getIntValue(const QString& key, int defaultValue) const
 {
     return d->read(key, PreferenceValue::toInt).value_or(defaultValue);
+}
+
+int PR_Preference::getEnum(const QString& key) const
+{
+    return getEnum(key, ownDefault(key));
 }
 
 int PR_Preference::getEnum(const QString& key, int defaultValue) const

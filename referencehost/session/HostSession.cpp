@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "referencehost/session/HostSession.h"
 
+#include "host/actions/AC_Manager.h"
 #include "host/commands/CO_CommandManager.h"
+#include "host/preferences/PR_Preference.h"
 #include "host/scene/TUSceneChangeManager.h"
 #include "host/selection/SL_Selection.h"
 #include "referencehost/services/ModifierKeyState.h"
+#include "referencehost/services/PressedKeys.h"
 #include "referencehost/session/EditionStack.h"
 
 #include <QTimer>
@@ -14,12 +17,31 @@ namespace {
 
 HostSession* currentSession = nullptr;
 
+/// Validators may depend on everything that the change manager tells of, and on preferences.
+void keepActionsValid(SC_SessionContext& context)
+{
+    AC_Manager* actions = context.actionManager();
+    TUSceneChangeManager* changes = context.changeManager();
+    const auto invalidate = [actions] { actions->invalidateActions(); };
+    using Changes = TUSceneChangeManager;
+    QObject::connect(changes, &Changes::selectionChanged, changes, invalidate);
+    QObject::connect(changes, &Changes::subSelectionChanged, changes, invalidate);
+    QObject::connect(changes, &Changes::currentFrameChanged, changes, invalidate);
+    QObject::connect(changes, &Changes::currentSceneChanged, changes, invalidate);
+    QObject::connect(changes, &Changes::networkChanged, changes, invalidate);
+    QObject::connect(changes, &Changes::childrenOrderingChanged, changes, invalidate);
+    QObject::connect(changes, &Changes::nodesChanged, changes, invalidate);
+    QObject::connect(PR_Preference::instance(), &PR_Preference::preferenceChanged, changes,
+                     invalidate);
+}
+
 } // namespace
 
 struct HostSession::Private
 {
     SC_SessionContext context;
     ModifierKeyState keyState;
+    PressedKeys pressedKeys;
     // Last, since scenes use the context until they are gone.
     EditionStack editionStack;
 };
@@ -29,6 +51,7 @@ HostSession::HostSession()
 {
     Q_ASSERT_X(!currentSession, "HostSession", "only one session can be open at a time");
     currentSession = this;
+    keepActionsValid(d->context);
 }
 
 HostSession::~HostSession()
@@ -55,6 +78,11 @@ PLUG_EditionStackInterface& HostSession::editionStack()
 PLUG_KeyStateInterface& HostSession::keyState()
 {
     return d->keyState;
+}
+
+bool HostSession::isKeyPressed(int key) const
+{
+    return d->pressedKeys.isPressed(key);
 }
 
 TUScene* HostSession::currentScene() const

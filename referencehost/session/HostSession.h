@@ -29,6 +29,8 @@ public:
     SC_SessionContext& context();
     PLUG_EditionStackInterface& editionStack();
     PLUG_KeyStateInterface& keyState();
+    /// Whether the key, a Qt::Key, is held down in the application.
+    bool isKeyPressed(int key) const;
 
     /// Null when no scene is open.
     TUScene* currentScene() const;
