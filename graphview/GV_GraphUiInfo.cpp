@@ -40,6 +40,7 @@ void GV_GraphUiInfo::clearUiNodeGraph()
         deleteTree(info.rootNode);
     _graphs.clear();
     _visibleGraphIx = -1;
+    ++_graphsRevision;
 }
 
 bool GV_GraphUiInfo::isEmpty() const
@@ -82,6 +83,12 @@ int GV_GraphUiInfo::headerNodes(std::vector<const GV_UiNode*>& out) const
 }
 
 GV_GraphUiInfo::SelectedNodeMap& GV_GraphUiInfo::selectedNodes()
+{
+    ++_selectionRevision;
+    return _selectedNodes;
+}
+
+const GV_GraphUiInfo::SelectedNodeMap& GV_GraphUiInfo::selectedNodes() const
 {
     return _selectedNodes;
 }

@@ -12,6 +12,7 @@
 
 #include <QColor>
 #include <QFont>
+#include <cstdint>
 #include <set>
 #include <unordered_map>
 #include <utility>
@@ -118,7 +119,9 @@ public:
     /// @name Selection
     /// @{
 
+    /// A caller that may change them counts as having done so.
     SelectedNodeMap& selectedNodes();
+    const SelectedNodeMap& selectedNodes() const;
     void clearSelection(bool keepHeaderNodes);
     /// Selects the node, or the first editable one below it; false when there is none.
     bool setFirstNodeSelected(GV_UiNode* node);
@@ -142,6 +145,11 @@ public:
     static const QFont& font();
 
     /// @}
+
+    /// Count the changes of which models are shown, in which order and with whose tree, and of what
+    /// is selected.
+    std::uint64_t graphsRevision() const { return _graphsRevision; }
+    std::uint64_t selectionRevision() const { return _selectionRevision; }
 
 private:
     void buildUiNodeGraph(GraphInfo& info, bool extendedDisplay);
@@ -178,6 +186,8 @@ private:
     std::vector<GraphInfo> _graphs;
     std::int32_t _visibleGraphIx = -1;
     SelectedNodeMap _selectedNodes;
+    std::uint64_t _graphsRevision = 0;
+    std::uint64_t _selectionRevision = 0;
 
     mutable GV_ShownRows _shownRows;
     GV_NameIndex _nameIndex;

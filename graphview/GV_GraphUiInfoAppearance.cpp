@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 
+#include "graphview/GV_AppearanceRevision.h"
 #include "graphview/GV_GraphUiInfo.h"
 #include "host/preferences/PR_Preference.h"
 
@@ -71,6 +72,8 @@ bool GV_GraphUiInfo::loadPreferences()
     changed |=
         loadColor(_disabledBoxColor, "ST_3DNODEVIEW_NONEDITABLE_NODE_COLOR", disabledBoxRgba);
     changed |= reloadFont();
+    if (changed)
+        GV_AppearanceRevision::advance();
     return changed;
 }
 

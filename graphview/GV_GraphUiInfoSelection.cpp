@@ -35,6 +35,7 @@ void GV_GraphUiInfo::clearSelection(bool keepHeaderNodes)
         }
     }
     _selectedNodes = std::move(kept);
+    ++_selectionRevision;
 }
 
 bool GV_GraphUiInfo::setFirstNodeSelected(GV_UiNode* node)
@@ -43,6 +44,7 @@ bool GV_GraphUiInfo::setFirstNodeSelected(GV_UiNode* node)
     while (const GV_UiNode* candidate = walk.next()) {
         if (candidate->isEditable()) {
             _selectedNodes[GV_UiNodeKey(candidate)] = candidate;
+            ++_selectionRevision;
             return true;
         }
     }
@@ -63,6 +65,7 @@ bool GV_GraphUiInfo::setFirstNodeWithNameSelected(GV_UiNode* start, const QStrin
     if (!node)
         return false;
     _selectedNodes[GV_UiNodeKey(node)] = node;
+    ++_selectionRevision;
     return true;
 }
 

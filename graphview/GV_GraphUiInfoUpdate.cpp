@@ -43,8 +43,13 @@ bool GV_GraphUiInfo::updateGraphUiInfo(const ModelList& models,
     _graphs = std::move(updated);
     const bool visibleChanged = _visibleGraphIx != visibleIx;
     _visibleGraphIx = visibleIx;
-    for (int ix = 0; ix < static_cast<int>(_graphs.size()); ++ix)
+    bool orderChanged = false;
+    for (int ix = 0; ix < static_cast<int>(_graphs.size()); ++ix) {
+        orderChanged |= _graphs[ix].rootNode->graphIx() != ix;
         _graphs[ix].rootNode->setGraphIx(ix);
+    }
+    if (anyRemoved || visibleChanged || orderChanged)
+        ++_graphsRevision;
     rememberSelectedHeaders();
 
     if (GraphInfo* visible = visibleGraph(); visible && !visible->rootNode->hasChildren()) {

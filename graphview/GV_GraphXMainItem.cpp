@@ -2,10 +2,12 @@
 
 #include "graphview/GV_GraphXMainItem.h"
 
+#include "graphview/GV_AppearanceRevision.h"
 #include "graphview/GV_GraphUiInfo.h"
 #include "graphview/GV_GraphXViewCtrl.h"
 #include "graphview/GV_LayoutGrid.h"
 #include "graphview/GV_PaintReach.h"
+#include "graphview/GV_RowRange.h"
 #include "host/preferences/PR_Preference.h"
 
 #include <QCoreApplication>
@@ -100,6 +102,8 @@ bool GV_GraphXMainItem::loadPreferences()
         __fontName = fontName;
         changed = true;
     }
+    if (changed)
+        GV_AppearanceRevision::advance();
     return changed;
 }
 

@@ -34,6 +34,10 @@ public:
     /// The area outside which boxes need not be drawn.
     void setViewRectInModelCoord(const QRectF& rect);
 
+protected:
+    GV_GraphXViewCtrl* controller() const { return _controller; }
+    QColor boxColor(const GV_UiNode* node) const;
+
 private:
     void drawHeaderNodes(std::vector<const GV_UiNode*>& headers);
     void drawNodes(const GV_ShownRows& rows);
@@ -46,7 +50,6 @@ private:
     void drawCollapsingControl(int column, int row, bool collapsed);
 
     bool isOutOfView(const QRectF& box) const;
-    QColor boxColor(const GV_UiNode* node) const;
     float boxX(const GV_UiNode* node) const;
     float controlX(int column) const;
 

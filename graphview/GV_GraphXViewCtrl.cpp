@@ -201,6 +201,7 @@ void GV_GraphXViewCtrl::selectionChanged()
 
 void GV_GraphXViewCtrl::currentFrameChanged()
 {
+    ++_settingsRevision;
     ModelCollector collector(_sessionContext);
     collectModels(_currentScene, collector);
     populateSelected3dModules(collector.models());
@@ -247,8 +248,10 @@ void GV_GraphXViewCtrl::nodesChanged(const TUNodeSet& nodes)
 {
     ModelNodeIdentifier identifier(nodes);
     _uiInfo->accept(identifier);
-    if (identifier.changed())
-        _view->refreshView();
+    if (!identifier.changed())
+        return;
+    ++_settingsRevision;
+    _view->refreshView();
 }
 
 void GV_GraphXViewCtrl::nodesNameChanged(const TUNodeSet& nodes)
@@ -276,7 +279,7 @@ void GV_GraphXViewCtrl::buildPickIdsFromUiSgNode(const MO_ElementModule* element
 {
     for (const GV_UiSgNode* node : nodes) {
         int id = 0;
-        if (element->getSelIdForNodeKey(AT_ModelNodeKey(node->name()), id))
+        if (element && element->getSelIdForNodeKey(AT_ModelNodeKey(node->name()), id))
             ids.insert(id);
     }
 }

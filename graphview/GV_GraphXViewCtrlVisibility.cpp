@@ -3,14 +3,19 @@
 #include "graphview/GV_GraphUiInfo.h"
 #include "graphview/GV_GraphVisitor.h"
 #include "graphview/GV_GraphXViewCtrl.h"
+#include "graphview/GV_TreeWalk.h"
 #include "graphview/GV_UiHeaderNode.h"
 #include "graphview/GV_UiSgNode.h"
+#include "host/commands/CO_CommandManager.h"
+#include "host/models/AT_ModelCmds.h"
 #include "host/models/AT_ModelData.h"
 #include "host/scene/MO_ElementModule.h"
 #include "host/scene/SC_CurrentFrameInterface.h"
 #include "host/scene/SC_SessionContext.h"
 
+#include <memory>
 #include <set>
+#include <utility>
 
 namespace {
 
@@ -42,12 +47,17 @@ public:
     using GV_GraphVisitor::visit;
     void visit(GV_UiSgNode* node) override
     {
-        if (!node->isEditable() || _excluded.contains(node))
-            return;
+        if (wants(node))
+            _collected.insert(node);
+    }
+
+    bool wants(const GV_UiNode* node) const
+    {
+        if (!node->isSgNode() || !node->isEditable() || _excluded.contains(node))
+            return false;
         const AT_ModelNodeData* record =
             _data ? _data->nodeData(AT_ModelNodeKey(node->name())) : nullptr;
-        if (recordHasState(record, _state))
-            _collected.insert(node);
+        return recordHasState(record, _state);
     }
 
     const std::set<const GV_UiNode*>& collected() const { return _collected; }
@@ -96,7 +106,7 @@ bool GV_GraphXViewCtrl::nodeHasState(eVisibilityState state, const GV_UiNode* no
 bool GV_GraphXViewCtrl::hasSelectedSubNodeWithState(eVisibilityState state) const
 {
     const MO_ElementModule* element = _uiInfo->visibleGraphModelNode();
-    const GV_GraphUiInfo::SelectedNodeMap& selectedNodes = _uiInfo->selectedNodes();
+    const GV_GraphUiInfo::SelectedNodeMap& selectedNodes = std::as_const(*_uiInfo).selectedNodes();
     if (!element || selectedNodes.empty())
         return false;
     const AT_ModelData* data = currentModelData(element);
@@ -117,8 +127,57 @@ bool GV_GraphXViewCtrl::hasUnSelectedSubNodeWithState(eVisibilityState state) co
     const MO_ElementModule* element = _uiInfo->visibleGraphModelNode();
     if (!element)
         return false;
-    UnSelectedVisibilityNodeCollector collector(currentModelData(element), _uiInfo->selectedNodes(),
-                                                state);
+    const UnSelectedVisibilityNodeCollector collector(
+        currentModelData(element), std::as_const(*_uiInfo).selectedNodes(), state);
+    // Any node will do, and mostly one of the first does.
+    GV_TreeWalk walk(_uiInfo->rootUiNode());
+    while (const GV_UiNode* node = walk.next()) {
+        if (collector.wants(node))
+            return true;
+    }
+    return false;
+}
+
+void GV_GraphXViewCtrl::onSetNodesVisible(bool visible)
+{
+    MO_ElementModule* element = _uiInfo->visibleGraphModelNode();
+    if (!element)
+        return;
+    std::vector<const GV_UiNode*> nodes;
+    for (const auto& [key, node] : std::as_const(*_uiInfo).selectedNodes()) {
+        if (node && node->isSgNode())
+            nodes.push_back(node);
+    }
+    setVisible(element, nodes, visible);
+}
+
+void GV_GraphXViewCtrl::onSetOtherNodesVisible(bool visible)
+{
+    MO_ElementModule* element = _uiInfo->visibleGraphModelNode();
+    if (!element)
+        return;
+    UnSelectedVisibilityNodeCollector collector(currentModelData(element),
+                                                std::as_const(*_uiInfo).selectedNodes(),
+                                                visible ? eHidden : eVisible);
     _uiInfo->accept(collector);
-    return !collector.collected().empty();
+    setVisible(element, {collector.collected().begin(), collector.collected().end()}, visible);
+}
+
+void GV_GraphXViewCtrl::setVisible(MO_ElementModule* element,
+                                   const std::vector<const GV_UiNode*>& nodes, bool visible)
+{
+    AT_ModelData* data = currentModelData(element);
+    auto command = std::make_unique<AT_ModelCmds::insertNodeDataCmd>(element, data);
+    for (const GV_UiNode* node : nodes) {
+        const AT_ModelNodeKey key(node->name());
+        const AT_ModelNodeData* existing = data ? data->nodeData(key) : nullptr;
+        AT_ModelNodeData record = existing ? *existing : AT_ModelNodeData();
+        record.visible = visible;
+        command->addData(key, record);
+    }
+    if (command->empty())
+        return;
+    _sessionContext->commandManager()->execute(command.release(),
+                                               visible ? QObject::tr("Show Model Nodes")
+                                                       : QObject::tr("Hide Model Nodes"));
 }

@@ -2,28 +2,25 @@
 
 #include "graphview/GV_GraphXViewQt.h"
 
+#include "graphview/GV_FixedCanvas.h"
 #include "graphview/GV_GraphUiInfo.h"
 #include "graphview/GV_GraphXMainItem.h"
+#include "graphview/GV_GraphXNavigatorQt.h"
 #include "graphview/GV_GraphXViewCtrl.h"
-#include "host/geometry/Matrix2x3.h"
+#include "graphview/GV_WorldViewQt.h"
 #include "host/preferences/PR_Preference.h"
 #include "host/scene/SC_SessionContext.h"
 #include "host/scene/TUSceneChangeManager.h"
 
+#include <QGraphicsRectItem>
 #include <QGraphicsScene>
-#include <QKeyEvent>
-#include <QScrollBar>
-#include <QWheelEvent>
 
 namespace {
 
 constexpr unsigned int backgroundRgba = 0xff787878;
 
 /// The rest position of the pan: the model's origin, two pixels inside the corner.
-constexpr Math::Point2d restPan{2.0, 2.0};
-
-/// Half the side of the scene rectangle: so large that the canvas never limits the pan.
-constexpr qreal sceneReach = 1e9;
+constexpr Math::Vector2d restPan{2.0, 2.0};
 
 } // namespace
 
@@ -34,12 +31,14 @@ GV_GraphXViewQt::GV_GraphXViewQt(AC_Manager* manager, QWidget* parent, SC_Sessio
                              QStringLiteral("GV_GraphView"), Qt::WindowFlags())
     , _sessionContext(session)
     , _pan(restPan)
+    , _referencePan(restPan)
 {
 }
 
 GV_GraphXViewQt::~GV_GraphXViewQt()
 {
-    // The items read the controller while they are taken out of the scene.
+    // The navigator and the items read the controller until they are gone.
+    delete _worldView;
     _scene.reset();
 }
 
@@ -47,12 +46,13 @@ void GV_GraphXViewQt::init(GV_GraphXViewCtrl* controller)
 {
     _controller.reset(controller);
     initCanvas();
-    _mainItem = new GV_GraphXMainItem(controller, false);
-    _mainItem->setAcceptedMouseButtons(Qt::NoButton);
-    _scene->addItem(_mainItem);
+    initMarquee();
+    _navigator = new GV_GraphXNavigatorQt(this, controller);
+    initWorldView();
     updateMatrix();
     connectNotifications();
     setContentsMargins(0, 0, 0, 0);
+    setMenu(actionManager(), "3D_NODES_POPUP_MENU", ePopupMenu);
     loadPreferences();
     setBackgroundBrush(__viewBackgroundQColor);
     connect(PR_Preference::instance(), &PR_Preference::preferenceChanged, this,
@@ -62,14 +62,30 @@ void GV_GraphXViewQt::init(GV_GraphXViewCtrl* controller)
 
 void GV_GraphXViewQt::initCanvas()
 {
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setAlignment(Qt::Alignment());
-    setTransformationAnchor(QGraphicsView::NoAnchor);
     setCacheMode(QGraphicsView::CacheBackground);
     _scene = std::make_unique<QGraphicsScene>();
-    setScene(_scene.get());
-    _scene->setSceneRect(-sceneReach, -sceneReach, 2 * sceneReach, 2 * sceneReach);
+    GV_FixedCanvas::prepare(*this, *_scene);
+    _mainItem = new GV_GraphXMainItem(_controller.get(), false);
+    _mainItem->setAcceptedMouseButtons(Qt::NoButton);
+    _scene->addItem(_mainItem);
+}
+
+void GV_GraphXViewQt::initMarquee()
+{
+    const QPen pen(QBrush(Qt::black), 0, Qt::DashLine, Qt::SquareCap, Qt::BevelJoin);
+    _marqueeItem = _scene->addRect(QRectF(), pen, Qt::NoBrush);
+    _marqueeItem->setAcceptedMouseButtons(Qt::NoButton);
+    _marqueeItem->hide();
+}
+
+void GV_GraphXViewQt::initWorldView()
+{
+    const PR_Preference* preferences = PR_Preference::instance();
+    _worldViewCorner = preferences->getEnum(QStringLiteral("GV_WORLD_VIEW_STARTING_CORNER"));
+    _worldView = new GV_WorldViewQt(this, _navigator, _worldViewCorner);
+    _worldView->setGeometry(QRect(QPoint(0, 0), QPoint(99, 99)));
+    if (!preferences->getBoolValue(QStringLiteral("GV_WORLD_VIEW_STARTING_STATE"), true))
+        _worldView->hide();
 }
 
 void GV_GraphXViewQt::connectNotifications()
@@ -113,86 +129,47 @@ bool GV_GraphXViewQt::loadPreferences()
         setBackgroundBrush(__viewBackgroundQColor);
     changed |= _mainItem->loadPreferences();
     changed |= _controller->uiInfo()->loadPreferences();
+    changed |= _worldView->refreshBackground(false);
     return changed;
 }
 
 void GV_GraphXViewQt::onPreferenceChanged()
 {
-    loadPreferences();
+    if (!loadPreferences())
+        _worldView->refreshBackground(false);
     // The second load reports no change after a real one, and then nothing is repainted from here:
     // the background brush, or the notification that brought the change about, sees to that.
     if (loadPreferences())
         refreshView();
 }
 
-Math::Point2d GV_GraphXViewQt::screenToModel(const Math::Point2d& point) const
-{
-    using Math::Matrix2x3;
-    return Matrix2x3::scale(1.0 / _zoomFactor) * Matrix2x3::translation({-_pan.x, -_pan.y}) * point;
-}
-
-Math::Point2d GV_GraphXViewQt::modelToScreen(const Math::Point2d& point) const
-{
-    using Math::Matrix2x3;
-    return Matrix2x3::translation({_pan.x, _pan.y}) * Matrix2x3::scale(_zoomFactor) * point;
-}
-
-void GV_GraphXViewQt::updateMatrix()
-{
-    setTransform(QTransform(_zoomFactor, 0, 0, _zoomFactor, _pan.x, _pan.y));
-    // A position of the canvas' own would be added to the pan.
-    horizontalScrollBar()->setValue(0);
-    verticalScrollBar()->setValue(0);
-    updateNavigatorMatrix();
-}
-
-QRectF GV_GraphXViewQt::viewRectInModelCoord() const
-{
-    return QRectF(mapToScene(QPoint(0, 0)), mapToScene(QPoint(width() - 1, height() - 1)));
-}
-
 void GV_GraphXViewQt::prepareGeometryChange()
 {
-    prepareGeometryChange(_mainItem->boundingRect());
+    _scene->invalidate(_mainItem->boundingRect(), QGraphicsScene::AllLayers);
+    GV_GraphXMainItem* overview = _navigator->mainItem();
+    _navigator->scene()->invalidate(overview->boundingRect(), QGraphicsScene::AllLayers);
+    _mainItem->prepareGeometryChange();
+    overview->prepareGeometryChange();
 }
 
 void GV_GraphXViewQt::prepareGeometryChange(const QRectF& before)
 {
     _scene->invalidate(before, QGraphicsScene::AllLayers);
+    _navigator->scene()->invalidate(before, QGraphicsScene::AllLayers);
     _mainItem->prepareGeometryChange();
+    _navigator->mainItem()->prepareGeometryChange();
 }
 
 void GV_GraphXViewQt::refreshView()
 {
     _mainItem->update();
+    _navigator->refresh();
     updateNavigatorMatrix();
 }
 
 void GV_GraphXViewQt::updateNavigatorMatrix()
 {
-}
-
-void GV_GraphXViewQt::paintEvent(QPaintEvent* event)
-{
-    _mainItem->setViewRectInModelCoord(viewRectInModelCoord());
-    TUCanvasViewLayoutView::paintEvent(event);
-}
-
-void GV_GraphXViewQt::resizeEvent(QResizeEvent*)
-{
-    resetCachedContent();
-    updateNavigatorMatrix();
-}
-
-void GV_GraphXViewQt::wheelEvent(QWheelEvent* event)
-{
-    // The canvas would scroll by itself.
-    event->ignore();
-}
-
-void GV_GraphXViewQt::keyPressEvent(QKeyEvent* event)
-{
-    event->ignore();
+    _navigator->updateMatrix(viewRectInModelCoord());
 }
 
 void GV_GraphXViewQt::nodesChanged(const TUNodeSet& nodes)

@@ -2,22 +2,14 @@
 
 #include "graphview/GV_PaintReach.h"
 
-#include "graphview/GV_LayoutGrid.h"
-
 #include <QPaintEngine>
 #include <QPainter>
-#include <algorithm>
-#include <cmath>
 
 namespace {
 
 /// How far a stroke of a one-pixel pen, with its caps and with antialiasing, may reach beyond its
 /// line, in device pixels; more than enough.
 constexpr qreal strokeReach = 4.0;
-
-/// Rows taken in beyond what was asked for: far down, positions in single precision are rounded by
-/// whole units.
-constexpr qreal spareRows = 1.0;
 
 } // namespace
 
@@ -35,15 +27,4 @@ std::optional<QRectF> GV_paintReach(const QPainter& painter)
     const QRectF everyPixel(0, 0, pixels->width(), pixels->height());
     return toPixels.inverted().mapRect(
         everyPixel.adjusted(-strokeReach, -strokeReach, strokeReach, strokeReach));
-}
-
-GV_RowRange GV_RowRange::within(const QRectF& area) const
-{
-    const auto clamped = [this](qreal row) {
-        return static_cast<int>(std::clamp(row, qreal(first) - 1.0, qreal(last) + 1.0));
-    };
-    return {
-        std::max(first,
-                 clamped(std::floor(area.top() / GV_LayoutGrid::rowPitch) - 1.0 - spareRows)),
-        std::min(last, clamped(std::ceil(area.bottom() / GV_LayoutGrid::rowPitch) + spareRows))};
 }

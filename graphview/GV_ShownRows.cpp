@@ -13,16 +13,35 @@ bool GV_ShownRows::isCurrent(const GV_UiNode* root) const
            _layoutRevision == GV_UiNode::layoutRevision();
 }
 
+namespace {
+
+bool hasPlaceBelow(GV_UiNode* node)
+{
+    GV_TreeWalk walk(node);
+    walk.next();
+    while (const GV_UiNode* below = walk.next()) {
+        if (below->column() >= 0)
+            return true;
+    }
+    return false;
+}
+
+} // namespace
+
 void GV_ShownRows::rebuild(GV_UiNode* root)
 {
     start(root);
+    bool laidOut = true;
     GV_TreeWalk walk(root);
     while (GV_UiNode* node = walk.next()) {
         append(node);
-        if (node->isCollapsed())
+        if (node->isCollapsed()) {
+            laidOut = laidOut && !hasPlaceBelow(node);
             walk.skipChildren();
+        }
     }
     finish();
+    _laidOut = laidOut;
 }
 
 void GV_ShownRows::start(GV_UiNode* root)
@@ -42,6 +61,7 @@ void GV_ShownRows::finish()
 {
     _treeRevision = GV_UiNode::treeRevision();
     _layoutRevision = GV_UiNode::layoutRevision();
+    _laidOut = true;
 }
 
 GV_UiNode* GV_ShownRows::nodeAtRow(int row) const

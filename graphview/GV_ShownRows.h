@@ -29,6 +29,8 @@ public:
     const std::vector<GV_UiNode*>& nodes() const { return _nodes; }
     /// Whether every node stands at the position of its row, as layout leaves it.
     bool isInOrder() const { return _inOrder; }
+    /// Whether the tree is as layout leaves it: in order, and what is folded away without a place.
+    bool isLaidOut() const { return _laidOut && _inOrder; }
 
     /// The first shown node whose row it is; null when there is none.
     GV_UiNode* nodeAtRow(int row) const;
@@ -38,5 +40,6 @@ private:
     std::uint64_t _treeRevision = 0;
     std::uint64_t _layoutRevision = 0;
     bool _inOrder = false;
+    bool _laidOut = false;
     std::vector<GV_UiNode*> _nodes;
 };

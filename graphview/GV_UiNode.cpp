@@ -8,6 +8,7 @@
 
 std::uint64_t GV_UiNode::_treeRevision = 0;
 std::uint64_t GV_UiNode::_layoutRevision = 0;
+std::uint64_t GV_UiNode::_editableRevision = 0;
 
 GV_UiNode::GV_UiNode(GV_UiNode* parent, const QString& name, const QString& displayName, int column,
                      int row, bool editable)
@@ -18,6 +19,7 @@ GV_UiNode::GV_UiNode(GV_UiNode* parent, const QString& name, const QString& disp
     , _editable(editable)
     , _parent(parent)
 {
+    ++_treeRevision;
 }
 
 GV_UiNode::GV_UiNode(GV_UiNode* parent, const QString& name, const QString& displayName,
@@ -70,6 +72,8 @@ void GV_UiNode::setCollapsed(bool collapsed)
 
 bool GV_UiNode::setEditable(bool editable)
 {
+    if (_editable != editable)
+        ++_editableRevision;
     return std::exchange(_editable, editable);
 }
 

@@ -86,14 +86,17 @@ public:
     /// Objects that others hang on the node; released with it.
     Attachments& attachments() { return _attachments; }
 
-    /// Count every change of any node's names or children, and of any node's counts or fold state,
-    /// so that what was derived from a tree can tell whether it still holds.
+    /// Count every change of any node's names or children, of any node's counts or fold state, and
+    /// of whether any node is editable, so that what was derived from a tree can tell whether it
+    /// still holds. Nodes that come and go count as changes of the tree.
     static std::uint64_t treeRevision() { return _treeRevision; }
     static std::uint64_t layoutRevision() { return _layoutRevision; }
+    static std::uint64_t editableRevision() { return _editableRevision; }
 
 private:
     static std::uint64_t _treeRevision;
     static std::uint64_t _layoutRevision;
+    static std::uint64_t _editableRevision;
 
     QString _name;
     QString _displayName;
