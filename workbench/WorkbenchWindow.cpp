@@ -4,18 +4,35 @@
 
 #include "graphview/GV_GraphXViewCtrl.h"
 #include "graphview/GV_GraphXViewQt.h"
+#include "host/actions/AC_Manager.h"
+#include "host/commands/CO_CommandManager.h"
 #include "host/scene/MO_ElementModule.h"
 #include "host/scene/SC_SessionContext.h"
 #include "referencehost/session/HostSession.h"
+#include "workbench/FrameBox.h"
 #include "workbench/ImportProgressDialog.h"
+#include "workbench/SceneListDock.h"
+#include "workbench/ViewDock.h"
 #include "workbench/import/ModelImporter.h"
 
 #include <QCloseEvent>
+#include <QFile>
 #include <QFileDialog>
 #include <QMenuBar>
 #include <QStatusBar>
+#include <QToolBar>
+#include <QUndoStack>
+
+/// The linker leaves out resources of a static library that nobody names.
+static void initResources()
+{
+    Q_INIT_RESOURCE(workbench);
+}
 
 namespace {
+
+constexpr QSize initialSize(1100, 800);
+constexpr int sceneListWidth = 220;
 
 QString fileFilter()
 {
@@ -28,21 +45,49 @@ QString fileFilter()
 } // namespace
 
 WorkbenchWindow::WorkbenchWindow(HostSession& session)
-    : _loader(session)
+    : _session(session)
+    , _loader(session)
     , _graphView(new GV_GraphXViewQt(session.context().actionManager(), this, &session.context()))
     , _progress(new ImportProgressDialog(_loader, this))
 {
     setWindowTitle(tr("Subnode Workbench"));
-    resize(1000, 800);
+    resize(initialSize);
     _graphView->init(new GV_GraphXViewCtrl(_graphView, &session.context()));
-    setCentralWidget(_graphView);
+    loadActions();
+    createDocks();
     createMenus();
+    createToolBars();
     statusBar()->showMessage(tr("Open a model with File > Open."));
     connect(&_loader, &ModelLoader::failed, this, &WorkbenchWindow::showFailure);
     connect(&_loader, &ModelLoader::loaded, this, &WorkbenchWindow::showLoaded);
 }
 
 WorkbenchWindow::~WorkbenchWindow() = default;
+
+void WorkbenchWindow::loadActions()
+{
+    initResources();
+    AC_Manager* manager = _session.context().actionManager();
+    QFile definitions(QStringLiteral(":/workbench/actions.xml"));
+    QString error;
+    // A second window finds them there already.
+    if (manager->actions().empty() && (!definitions.open(QIODevice::ReadOnly) ||
+                                       !manager->loadDefinitions(definitions.readAll(), &error)))
+        qFatal("The action definitions cannot be read: %s", qUtf8Printable(error));
+}
+
+void WorkbenchWindow::createDocks()
+{
+    setDockNestingEnabled(true);
+    _sceneList = new SceneListDock(_session, this);
+    addDockWidget(Qt::LeftDockWidgetArea, _sceneList);
+    _graphDock = new ViewDock(tr("Graph View"), _graphView, this);
+    _graphDock->setObjectName(QStringLiteral("GraphDock"));
+    _graphDock->setKeptWhenClosed(true);
+    addDockWidget(Qt::RightDockWidgetArea, _graphDock);
+    resizeDocks({_sceneList, _graphDock}, {sceneListWidth, initialSize.width() - sceneListWidth},
+                Qt::Horizontal);
+}
 
 void WorkbenchWindow::createMenus()
 {
@@ -52,6 +97,53 @@ void WorkbenchWindow::createMenus()
     file->addSeparator();
     QAction* quit = file->addAction(tr("&Quit"), this, &QWidget::close);
     quit->setShortcut(QKeySequence::Quit);
+
+    AC_Manager* manager = _session.context().actionManager();
+    const QUndoStack* history = _session.context().commandManager()->history();
+    QMenu* edit = menuBar()->addMenu(tr("&Edit"));
+    QAction* undo = history->createUndoAction(this, tr("&Undo"));
+    undo->setShortcut(QKeySequence::Undo);
+    QAction* redo = history->createRedoAction(this, tr("&Redo"));
+    redo->setShortcuts({QKeySequence::Redo, QKeySequence(Qt::CTRL | Qt::Key_Y)});
+    edit->addActions({undo, redo});
+    edit->addSeparator();
+    for (const char* id : {"GRAPH_SELECT_ALL", "GRAPH_DESELECT"})
+        edit->addAction(manager->action(QString::fromLatin1(id)));
+
+    for (const char* id : {"VIEW_MENU", "SUBNODES_MENU"})
+        menuBar()->addMenu(manager->createMenu(QString::fromLatin1(id), this));
+
+    QMenu* window = menuBar()->addMenu(tr("&Window"));
+    QAction* another =
+        window->addAction(QIcon(QStringLiteral(":/workbench/icons/new-view.svg")),
+                          tr("New &Graph View"), this, &WorkbenchWindow::openGraphView);
+    another->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_N);
+    window->addSeparator();
+    window->addActions({_sceneList->toggleViewAction(), _graphDock->toggleViewAction()});
+}
+
+void WorkbenchWindow::createToolBars()
+{
+    QToolBar* graph =
+        _session.context().actionManager()->createToolBar(QStringLiteral("GRAPH_TOOLBAR"), this);
+    addToolBar(graph);
+    auto* frame = new QToolBar(tr("Frame"), this);
+    frame->setObjectName(QStringLiteral("FRAME_TOOLBAR"));
+    frame->addWidget(new FrameBox(_session, frame));
+    addToolBar(frame);
+}
+
+ViewDock* WorkbenchWindow::openGraphView()
+{
+    TULayoutView* view = _graphView->clone(this);
+    auto* dock = new ViewDock(tr("Graph View %1").arg(++_openedGraphViews), view, this);
+    if (_graphDock->isHidden())
+        addDockWidget(Qt::RightDockWidgetArea, dock);
+    else
+        splitDockWidget(_graphDock, dock, Qt::Horizontal);
+    dock->show();
+    view->widget()->setFocus();
+    return dock;
 }
 
 void WorkbenchWindow::chooseModels()

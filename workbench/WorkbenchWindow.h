@@ -8,9 +8,11 @@
 class GV_GraphXViewQt;
 class HostSession;
 class ImportProgressDialog;
+class SceneListDock;
+class ViewDock;
 
-/// The window of the workbench: the graph view over the session's scene, and what it takes to open
-/// models.
+/// The window of the workbench: docks with the views over the session's scene, the list of the
+/// scene, menus, tool bars, and what it takes to open models.
 class WorkbenchWindow : public QMainWindow
 {
     Q_OBJECT
@@ -21,18 +23,30 @@ public:
     ~WorkbenchWindow() override;
 
     ModelLoader& loader() { return _loader; }
+    /// The graph view that stays when it is closed.
     GV_GraphXViewQt& graphView() { return *_graphView; }
+    SceneListDock& sceneList() { return *_sceneList; }
+
+    /// Opens another graph view beside the one that last had the focus.
+    ViewDock* openGraphView();
 
 protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    void loadActions();
+    void createDocks();
     void createMenus();
+    void createToolBars();
     void chooseModels();
     void showFailure(const QString& message);
     void showLoaded(MO_ElementModule* element);
 
+    HostSession& _session;
     ModelLoader _loader;
     GV_GraphXViewQt* _graphView;
+    ViewDock* _graphDock = nullptr;
+    SceneListDock* _sceneList = nullptr;
     ImportProgressDialog* _progress;
+    int _openedGraphViews = 1;
 };

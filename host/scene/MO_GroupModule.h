@@ -26,6 +26,9 @@ public:
     /// Gives the node up, and with it what it holds, unselected; null when it is not in this
     /// group.
     std::unique_ptr<MO_Node> takeNode(MO_Node* node);
+    /// Gives the node another position among the others; one past the end means the last. False
+    /// when it is not in this group, or stands there already.
+    bool moveNode(MO_Node* node, int position);
 
 private:
     std::vector<std::unique_ptr<MO_Node>> _nodes;

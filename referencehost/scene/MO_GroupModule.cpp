@@ -91,3 +91,17 @@ std::unique_ptr<MO_Node> MO_GroupModule::takeNode(MO_Node* node)
     node->d->parentGroup = nullptr;
     return taken;
 }
+
+bool MO_GroupModule::moveNode(MO_Node* node, int position)
+{
+    const int from = indexOf(node);
+    const int to = std::clamp(position, 0, std::max(0, static_cast<int>(_nodes.size()) - 1));
+    if (from < 0 || from == to)
+        return false;
+    std::unique_ptr<MO_Node> moved = std::move(_nodes[static_cast<std::size_t>(from)]);
+    _nodes.erase(_nodes.begin() + from);
+    _nodes.insert(_nodes.begin() + to, std::move(moved));
+    if (TUSceneChangeManager* changes = changeManagerOf(*this))
+        changes->emitChildrenOrderingChanged(node);
+    return true;
+}
