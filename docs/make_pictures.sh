@@ -14,6 +14,30 @@ export XDG_CONFIG_HOME="$settings" QT_QPA_PLATFORM=offscreen
 
 cmake --build "$root/build/release" --target subnode-workbench
 mkdir -p "$images"
-"$program" "$models/robot.gltf" "$models/crane.gltf" --size 760x560 --select Neck --select LeftEye \
-    --screenshot "$images/robot.png"
+
+# picture NAME OPTION... takes a picture of the robot in the graph view.
+picture() {
+    local name=$1
+    shift
+    "$program" "$models/robot.gltf" --size 760x560 "$@" --screenshot "$images/$name.png"
+}
+repeated() {
+    for ((i = 0; i < $1; ++i)); do printf -- '--action\n%s\n' "$2"; done
+}
+
+"$program" "$models/robot.gltf" "$models/crane.gltf" --size 1000x700 \
+    --select Neck --select LeftEye --screenshot "$images/robot.png"
 "$program" "$models/crane.gltf" --extended --size 760x560 --screenshot "$images/extended.png"
+picture selected --select Torso --select Head
+picture hidden --select Torso --select Head --action onActionHideNodes
+picture others-hidden --select Head --action onActionHideAllOtherNodes
+picture collapsed --select Torso --action onActionCollapseAllNodes
+for corner in 0 1 2 3; do
+    picture "navigator-$corner" --action "onActionMoveWorld($corner)"
+done
+picture navigator-hidden --action onActionShowHideWorldView
+mapfile -t steps < <(repeated 22 onActionZoomOut)
+picture smallest-text "${steps[@]}" --action onActionResetPan
+mapfile -t steps < <(repeated 24 onActionZoomOut)
+picture without-text "${steps[@]}" --action onActionResetPan
+picture framed --select LeftHand --action onActionFrameSelected

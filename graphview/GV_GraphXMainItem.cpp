@@ -14,6 +14,7 @@
 #include <QPainter>
 #include <QStyleOptionGraphicsItem>
 #include <algorithm>
+#include <cmath>
 
 using namespace GV_LayoutGrid;
 
@@ -32,6 +33,9 @@ constexpr float barReach = 2.5F;
 constexpr float lineTop = 12.5F;
 /// From the top of a box to the first pixel below its control.
 constexpr int spineTop = controlCentreY + controlRadius;
+
+/// Rows closer together than this, in pixels, may fall on the same spots.
+constexpr double smallestRow = 1.0 / 64.0;
 
 /// Names are drawn above the first level of detail, and are fully black from the second one on.
 constexpr float textLevel = 0.125F;
@@ -138,6 +142,7 @@ void GV_GraphXMainItem::paint(QPainter* painter, const QStyleOptionGraphicsItem*
         if (activeIx >= 0) {
             _activeHeaderIx = activeIx;
             _offset = static_cast<float>(activeIx * headerPitch);
+            startDrawnCells();
             const QColor savedColor = painter->pen().color();
             painter->setPen(hairline(__networkLineColor));
             drawLines(uiInfo->shownRows());
@@ -153,6 +158,21 @@ void GV_GraphXMainItem::paint(QPainter* painter, const QStyleOptionGraphicsItem*
     _offset = 0.0F;
     _activeHeaderIx = -1;
     _painter = nullptr;
+}
+
+void GV_GraphXMainItem::startDrawnCells()
+{
+    const QTransform toPixels = _painter->deviceTransform();
+    const bool enabled =
+        _drawEverything && GV_paintReach(*_painter) && toPixels.type() <= QTransform::TxScale &&
+        std::abs(toPixels.m22()) * rowPitch < smallestRow &&
+        !_painter->testRenderHint(QPainter::Antialiasing) && _painter->opacity() == 1.0;
+    // A translucent line is denser where others lie below it. Boxes this small are all outline.
+    const bool opaqueLines = enabled && __networkLineColor.alpha() == 255;
+    _drawnBoxes.start(enabled, toPixels);
+    for (GV_DrawnCells* cells :
+         {&_drawnSpines, &_drawnLines, &_drawnOpenControls, &_drawnClosedControls})
+        cells->start(opaqueLines, toPixels);
 }
 
 float GV_GraphXMainItem::boxX(const GV_UiNode* node) const
@@ -206,7 +226,7 @@ void GV_GraphXMainItem::drawNode(const GV_UiNode* node)
     const float x = boxX(node);
     const float y = rowY(node->row());
     const QRectF box(x, y, boxWidth, boxHeight);
-    if (isOutOfView(box))
+    if (isOutOfView(box) || !_drawnBoxes.isNew(box))
         return;
     _painter->setPen(hairline(QColor(0, 0, 0, 255)));
     _painter->setBrush(boxColor(node));
@@ -267,23 +287,29 @@ void GV_GraphXMainItem::drawLinesToChildren(const GV_UiNode* node)
 void GV_GraphXMainItem::drawSpine(const GV_UiNode* node)
 {
     const float x = controlX(node->column());
-    _painter->drawLine(QPointF(x, rowY(node->row()) + spineTop),
-                       QPointF(x, rowY(lastChild(node)->row()) + lineTop));
+    const QPointF top(x, rowY(node->row()) + spineTop);
+    const QPointF bottom(x, rowY(lastChild(node)->row()) + lineTop);
+    if (_drawnSpines.isNew(QRectF(top, bottom)))
+        _painter->drawLine(top, bottom);
 }
 
 void GV_GraphXMainItem::drawLineFromParent(const GV_UiNode* node)
 {
     const float y = rowY(node->row()) + lineTop;
-    _painter->drawLine(QPointF(controlX(node->parent()->column()), y),
-                       QPointF(boxX(node) + 0.5F, y));
+    const QPointF left(controlX(node->parent()->column()), y);
+    const QPointF right(boxX(node) + 0.5F, y);
+    if (_drawnLines.isNew(QRectF(left, right)))
+        _painter->drawLine(left, right);
 }
 
 void GV_GraphXMainItem::drawCollapsingControl(int column, int row, bool collapsed)
 {
     const float x = controlX(column);
     const float y = rowY(row) + controlCentreY;
-    _painter->drawEllipse(
-        QRectF(x - controlRadius, y - controlRadius, 2 * controlRadius, 2 * controlRadius));
+    const QRectF circle(x - controlRadius, y - controlRadius, 2 * controlRadius, 2 * controlRadius);
+    if (!(collapsed ? _drawnClosedControls : _drawnOpenControls).isNew(circle))
+        return;
+    _painter->drawEllipse(circle);
     _painter->drawLine(QPointF(x - barReach, y), QPointF(x + barReach, y));
     if (collapsed)
         _painter->drawLine(QPointF(x, y - barReach), QPointF(x, y + barReach));

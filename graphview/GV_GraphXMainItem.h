@@ -3,6 +3,8 @@
 
 #include <SubnodeViewsExport.h>
 
+#include "graphview/GV_DrawnCells.h"
+
 #include <QColor>
 #include <QGraphicsItem>
 #include <QPen>
@@ -39,6 +41,8 @@ protected:
     QColor boxColor(const GV_UiNode* node) const;
 
 private:
+    /// Lets shapes be left out that others have covered, where that is possible and worth it.
+    void startDrawnCells();
     void drawHeaderNodes(std::vector<const GV_UiNode*>& headers);
     void drawNodes(const GV_ShownRows& rows);
     void drawNode(const GV_UiNode* node);
@@ -63,6 +67,11 @@ private:
     float _offset = 0.0F;
     float _levelOfDetail = 0.0F;
     bool _drawText = false;
+    GV_DrawnCells _drawnBoxes;
+    GV_DrawnCells _drawnSpines;
+    GV_DrawnCells _drawnLines;
+    GV_DrawnCells _drawnOpenControls;
+    GV_DrawnCells _drawnClosedControls;
 
     static QColor __networkLineColor;
     static QString __fontName;

@@ -9,6 +9,8 @@
 
 #include <QGraphicsView>
 #include <QPainter>
+#include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace {
@@ -17,6 +19,16 @@ namespace {
 bool showsBoxColors(const QTransform& transform, qreal pixelRatio)
 {
     return transform.m22() * pixelRatio * GV_LayoutGrid::boxHeight >= 1.0;
+}
+
+/// Up to this many rows the graph is drawn again as soon as it moves at all.
+constexpr std::size_t fewRows = 2000;
+/// What the raster engine can tell apart, in pixels.
+constexpr double resolution = 1.0 / 64.0;
+
+double distance(const QPointF& a, const QPointF& b)
+{
+    return std::max(std::abs(a.x() - b.x()), std::abs(a.y() - b.y()));
 }
 
 } // namespace
@@ -48,6 +60,25 @@ GV_OverviewItem::Look GV_OverviewItem::lookAt(const Place& place) const
     return look;
 }
 
+bool GV_OverviewItem::fits(const Place& place) const
+{
+    if (_picture.isNull() || place.size != _place.size || place.pixelRatio != _place.pixelRatio ||
+        place.background != _place.background || place.base != _place.base)
+        return false;
+    if (place.transform == _place.transform)
+        return true;
+    // The visible area takes part in the fit, so a pan that leaves the graph moves all of it by a
+    // trifle. In a large graph, that is less than the raster engine resolves.
+    if (controller()->uiInfo()->shownRows().nodes().size() <= fewRows)
+        return false;
+    const QRectF extent = boundingRect();
+    const double moved = std::max(
+        distance(place.transform.map(extent.topLeft()), _place.transform.map(extent.topLeft())),
+        distance(place.transform.map(extent.bottomRight()),
+                 _place.transform.map(extent.bottomRight())));
+    return moved * place.pixelRatio < resolution;
+}
+
 bool GV_OverviewItem::isOutdated() const
 {
     return _look != lookAt(_place);
@@ -63,7 +94,7 @@ void GV_OverviewItem::paint(QPainter* painter, const QStyleOptionGraphicsItem* o
     }
     const Place place{painter->worldTransform(), widget->size(), widget->devicePixelRatio(),
                       view->backgroundBrush(), widget->palette().color(widget->backgroundRole())};
-    if (Look look = lookAt(place); _picture.isNull() || place != _place || look != _look) {
+    if (Look look = lookAt(place); look != _look || !fits(place)) {
         _place = place;
         _look = std::move(look);
         draw(*painter, option, widget);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <SubnodeViewsExport.h>
+
 #include "graphview/GV_GraphXMainItem.h"
 
 #include <QBrush>
@@ -11,7 +13,7 @@
 
 /// Draws the whole graph into an overview, and keeps the picture: as long as the graph would look
 /// the same pixel by pixel, it is only shown again.
-class GV_OverviewItem : public GV_GraphXMainItem
+class SUBNODEVIEWS_EXPORT GV_OverviewItem : public GV_GraphXMainItem
 {
 public:
     /// The controller is not owned and must outlive the item's painting.
@@ -49,11 +51,11 @@ private:
         qreal pixelRatio = 1.0;
         QBrush background;
         QColor base;
-
-        friend bool operator==(const Place&, const Place&) = default;
     };
 
     Look lookAt(const Place& place) const;
+    /// Whether the kept picture will do for that place.
+    bool fits(const Place& place) const;
     void draw(const QPainter& target, const QStyleOptionGraphicsItem* option, QWidget* widget);
 
     Place _place;

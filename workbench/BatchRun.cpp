@@ -2,6 +2,8 @@
 
 #include "workbench/BatchRun.h"
 
+#include "host/actions/AC_ActionInfo.h"
+#include "host/actions/AC_Manager.h"
 #include "host/models/AT_ModelNodeKey.h"
 #include "host/models/TD_CelVq3d.h"
 #include "host/scene/MO_ElementModule.h"
@@ -20,6 +22,7 @@
 #include <QApplication>
 #include <QEventLoop>
 #include <QPixmap>
+#include <QRegularExpression>
 #include <QSaveFile>
 #include <QTextStream>
 #include <cstdio>
@@ -77,6 +80,45 @@ ExitCode BatchRun::selectSubnodes()
         }
     }
     return code;
+}
+
+ExitCode BatchRun::performActions()
+{
+    if (_commandLine.actions.isEmpty())
+        return ExitDone;
+    // Some actions depend on how large the views are.
+    _window.show();
+    QApplication::processEvents();
+    ExitCode code = ExitDone;
+    for (const QString& action : _commandLine.actions) {
+        if (!perform(action))
+            code = ExitUsage;
+    }
+    return code;
+}
+
+bool BatchRun::perform(const QString& action)
+{
+    static const QRegularExpression pattern(QStringLiteral("^(\\w+)(?:\\((-?\\d+)?\\))?$"));
+    const QRegularExpressionMatch match = pattern.match(action);
+    const QByteArray slotName = match.captured(1).toLatin1();
+    std::optional<int> argument;
+    if (!match.captured(2).isEmpty())
+        argument = match.captured(2).toInt();
+
+    const AC_Manager* manager = _session.context().actionManager();
+    AC_ActionInfo validation(slotName, AC_ActionInfo::eValidate, argument);
+    AC_ActionInfo info(slotName, AC_ActionInfo::ePerform, argument);
+    if (slotName.isEmpty() || !manager->routeToAny(validation)) {
+        printError(QApplication::translate("BatchRun", "There is no action \"%1\".").arg(action));
+        return false;
+    }
+    if (!validation.isEnabled()) {
+        printError(QApplication::translate("BatchRun", "The action \"%1\" is not available now.")
+                       .arg(action));
+        return false;
+    }
+    return manager->routeToAny(info);
 }
 
 ExitCode BatchRun::dump()

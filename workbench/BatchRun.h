@@ -26,10 +26,15 @@ public:
     /// Blocks until the models are read. A model that cannot be read does not stop the others.
     ExitCode openModels();
     ExitCode selectSubnodes();
+    /// An action that does not exist, or is not available now, is an error of usage and does not
+    /// stop the others.
+    ExitCode performActions();
     ExitCode dump();
     ExitCode takeScreenshot();
 
 private:
+    bool perform(const QString& action);
+
     const CommandLine& _commandLine;
     HostSession& _session;
     WorkbenchWindow& _window;

@@ -22,6 +22,9 @@ struct Options
     QCommandLineOption frame{"frame", tr("The current frame; the first one is 1."), "N"};
     QCommandLineOption select{
         "select", tr("Selects the subnode NAME of the first model; can be repeated."), "NAME"};
+    QCommandLineOption action{
+        "action", tr("Performs the action NAME, as menus do, after selecting; can be repeated."),
+        "NAME"};
 
     static QString tr(const char* text) { return QCoreApplication::translate("CommandLine", text); }
 
@@ -30,7 +33,7 @@ struct Options
         parser.setApplicationDescription(
             tr("Shows the inner hierarchy of 3D models and works on their parts."));
         parser.addOptions(
-            {help, version, formats, dump, extended, screenshot, size, frame, select});
+            {help, version, formats, dump, extended, screenshot, size, frame, select, action});
         parser.addPositionalArgument("MODEL",
                                      tr("A model file to open; its element is named "
                                         "after it. The first one is selected."),
@@ -73,6 +76,7 @@ CommandLine::Outcome CommandLine::parse(const QStringList& arguments)
     line.models = parser.positionalArguments();
     line.screenshot = parser.value(options.screenshot);
     line.selectedNames = parser.values(options.select);
+    line.actions = parser.values(options.action);
     line.extended = parser.isSet(options.extended);
     line.dump = parser.isSet(options.dump);
     line.formats = parser.isSet(options.formats);

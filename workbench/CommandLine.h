@@ -18,6 +18,9 @@ struct CommandLine
     int frame = 1;
     /// The subnodes to select in the model that is shown.
     QStringList selectedNames;
+    /// The actions to perform then, in order, each a slot such as "selectAll" or, with its
+    /// argument, "onActionMoveWorld(1)".
+    QStringList actions;
     bool extended = false;
     bool dump = false;
     bool formats = false;

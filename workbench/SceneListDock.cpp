@@ -19,6 +19,13 @@
 #include <QScopedValueRollback>
 #include <QTreeWidget>
 
+namespace {
+
+/// Room for a name and a type.
+constexpr int smallestWidth = 160;
+
+} // namespace
+
 SceneListDock::SceneListDock(HostSession& session, QWidget* parent)
     : QDockWidget(tr("Scene"), parent)
     , _session(session)
@@ -33,6 +40,7 @@ SceneListDock::SceneListDock(HostSession& session, QWidget* parent)
     _list->setEditTriggers(QAbstractItemView::EditKeyPressed);
     _list->setContextMenuPolicy(Qt::ActionsContextMenu);
     _list->setAccessibleName(tr("Nodes of the scene"));
+    _list->setMinimumWidth(smallestWidth);
     setWidget(_list);
     createActions();
     connectHost();

@@ -100,6 +100,7 @@ int run(const CommandLine& commandLine)
         window.show();
     int code = batch.openModels();
     code = std::max<int>(code, batch.selectSubnodes());
+    code = std::max<int>(code, batch.performActions());
     if (commandLine.dump)
         code = std::max<int>(code, batch.dump());
     if (!commandLine.screenshot.isEmpty())

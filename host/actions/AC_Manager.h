@@ -70,6 +70,9 @@ public:
     /// Offers the action to the responder with the identity that last had the focus. True when it
     /// was handled.
     bool route(const QString& identity, AC_ActionInfo& info) const;
+    /// Offers the action to one responder after the other, the last one to have the focus first,
+    /// until one handles it.
+    bool routeToAny(AC_ActionInfo& info) const;
     /// Asks all validators now.
     void validateActions();
     /// To be called after a change that validators may depend on: they are asked again as soon as

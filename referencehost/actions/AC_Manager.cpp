@@ -212,6 +212,15 @@ bool AC_Manager::route(const QString& identity, AC_ActionInfo& info) const
     return !candidates.empty() && candidates.front()->perform(&info) != AC_NotHandled;
 }
 
+bool AC_Manager::routeToAny(AC_ActionInfo& info) const
+{
+    std::vector<AC_Responder*> candidates = d->byFocus;
+    candidates.insert(candidates.end(), d->responders.begin(), d->responders.end());
+    return std::ranges::any_of(candidates, [&info](AC_Responder* responder) {
+        return responder->perform(&info) != AC_NotHandled;
+    });
+}
+
 void AC_Manager::validateActions()
 {
     d->watch.setValid();
