@@ -71,13 +71,14 @@ void GV_GraphXViewQt::mousePressEvent(QMouseEvent* event)
     _pressPoint = {pressed.x, pressed.y};
     _marqueeStart = pressed;
     _marqueeEnd = pressed;
+    // Nothing of a gesture that is given up may stay on the canvas.
+    if (othersHeld)
+        endMarquee();
     if (isFreePanAndZoomKeyHeld()) {
         _mouseAction = eMouseFreePanAndZoom;
         return;
     }
     if (othersHeld) {
-        // Nothing of a gesture that is given up may stay on the canvas.
-        endMarquee();
         _mouseAction = eMouseNone;
         return;
     }

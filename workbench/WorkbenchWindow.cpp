@@ -34,6 +34,18 @@ namespace {
 constexpr QSize initialSize(1100, 800);
 constexpr int sceneListWidth = 220;
 
+/// The platform's own keys, and the two that people try.
+QList<QKeySequence> redoKeys()
+{
+    QList<QKeySequence> keys = QKeySequence::keyBindings(QKeySequence::Redo);
+    for (const QKeySequence& key :
+         {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z), QKeySequence(Qt::CTRL | Qt::Key_Y)}) {
+        if (!keys.contains(key))
+            keys.append(key);
+    }
+    return keys;
+}
+
 QString fileFilter()
 {
     QStringList patterns;
@@ -104,7 +116,7 @@ void WorkbenchWindow::createMenus()
     QAction* undo = history->createUndoAction(this, tr("&Undo"));
     undo->setShortcut(QKeySequence::Undo);
     QAction* redo = history->createRedoAction(this, tr("&Redo"));
-    redo->setShortcuts({QKeySequence::Redo, QKeySequence(Qt::CTRL | Qt::Key_Y)});
+    redo->setShortcuts(redoKeys());
     edit->addActions({undo, redo});
     edit->addSeparator();
     for (const char* id : {"GRAPH_SELECT_ALL", "GRAPH_DESELECT"})

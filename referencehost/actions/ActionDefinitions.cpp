@@ -103,7 +103,10 @@ bool ActionDefinitions::readShortcut(const QDomElement& element, QString& error)
         return fail(element, tr("\"%1\" is not a single key.").arg(attribute(element, "key")),
                     error);
     }
-    _keys.insert(attribute(element, "id"), sequence[0].key());
+    const QString id = attribute(element, "id");
+    if (_keys.contains(id))
+        return fail(element, tr("\"%1\" is defined twice.").arg(id), error);
+    _keys.insert(id, sequence[0].key());
     return true;
 }
 
@@ -114,7 +117,7 @@ bool ActionDefinitions::readItems(const QDomElement& element, QString& error) co
         const QString kind = item.tagName();
         if (kind == QLatin1String("separator"))
             continue;
-        if (kind == QLatin1String("menu")) {
+        if (kind == QLatin1String("menu") && element.tagName() == kind) {
             if (!readItems(item, error))
                 return false;
         } else if (kind != QLatin1String("item")) {

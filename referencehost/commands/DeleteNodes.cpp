@@ -25,8 +25,12 @@ bool isHeldByAny(const MO_Node* node, const std::vector<MO_Node*>& others)
 DeleteNodes::DeleteNodes(const std::vector<MO_Node*>& nodes, SL_Selection* selection)
     : _selection(selection)
 {
+    const auto isNew = [this](const MO_Node* node) {
+        return std::ranges::none_of(
+            _places, [node](const Place& place) { return place.node.get() == node; });
+    };
     for (MO_Node* node : nodes) {
-        if (node && node->parentGroup() && !isHeldByAny(node, nodes))
+        if (node && node->parentGroup() && isNew(node) && !isHeldByAny(node, nodes))
             _places.push_back({UT_SharedWeakPtr<MO_Node>(node->parentGroup()),
                                UT_SharedWeakPtr<MO_Node>(node), 0, nullptr});
     }
@@ -55,7 +59,10 @@ void DeleteNodes::rememberSelection()
 
 bool DeleteNodes::execute()
 {
-    std::erase_if(_places, [](const Place& place) { return !place.node.get(); });
+    // Others may have taken nodes out meanwhile.
+    std::erase_if(_places, [](const Place& place) {
+        return !place.node.get() || !place.node->parentGroup();
+    });
     rememberSelection();
     const SL_Selection::BatchSelectionModeScope scope(_selection);
     for (Place& place : _places) {
@@ -68,11 +75,15 @@ bool DeleteNodes::execute()
 
 bool DeleteNodes::undo()
 {
+    // All of them come back or none.
+    const auto isGone = [](const Place& place) {
+        return !dynamic_cast<MO_GroupModule*>(place.group.get());
+    };
+    if (std::ranges::any_of(_places, isGone))
+        return false;
     const SL_Selection::BatchSelectionModeScope scope(_selection);
     for (Place& place : std::views::reverse(_places)) {
         auto* group = dynamic_cast<MO_GroupModule*>(place.group.get());
-        if (!group)
-            return false;
         MO_Node* node = group->insertNode(std::move(place.taken), place.position);
         // Its drawings come back with it.
         if (TUSceneChangeManager* changes = changeManagerOf(*node))

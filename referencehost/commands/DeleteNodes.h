@@ -8,8 +8,8 @@
 
 class SL_Selection;
 
-/// Takes nodes out of the scene, with what they hold. Undone, they come back to where they were, as
-/// selected as they were.
+/// Takes nodes out of the scene, with what they hold. Undone, they come back to where they were;
+/// those that were selected, with their sub-selection, are selected again, after all others.
 class HOST_EXPORT DeleteNodes : public CO_Command
 {
 public:

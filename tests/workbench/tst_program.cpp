@@ -25,6 +25,8 @@ private slots:
     void selecting_a_subnode_changes_the_picture();
     void extended_display_changes_the_picture_for_this_run_alone();
     void a_frame_is_taken();
+    void actions_are_performed_in_order();
+    void actions_that_cannot_be_performed_are_a_wrong_use();
     void unknown_subnodes_are_a_wrong_use();
     void wrong_use_is_one_line();
     void bad_files_data();
@@ -188,7 +190,39 @@ void tst_program::extended_display_changes_the_picture_for_this_run_alone()
 
 void tst_program::a_frame_is_taken()
 {
-    QCOMPARE(picture({_robot, "--frame", "500"}), picture({_robot}));
+    // The frame box shows the number; the model shows on every frame.
+    const QImage first = picture({_robot});
+    const QImage later = picture({_robot, "--frame", "500"});
+    QVERIFY(!first.isNull());
+    QVERIFY(first != later);
+    const QRect views = first.rect().adjusted(0, 100, 0, 0);
+    QCOMPARE(later.copy(views), first.copy(views));
+}
+
+void tst_program::actions_are_performed_in_order()
+{
+    const QImage plain = picture({_robot});
+    const QImage folded = picture({_robot, "--action", "onActionCollapseAllNodes"});
+    QVERIFY(!plain.isNull());
+    QVERIFY(!folded.isNull());
+    QVERIFY(plain != folded);
+    QCOMPARE(picture({_robot, "--action", "onActionCollapseAllNodes", "--action",
+                      "onActionExpandAllNodes()"}),
+             plain);
+    QVERIFY(picture({_robot, "--action", "onActionMoveWorld(0)"}) != plain);
+}
+
+void tst_program::actions_that_cannot_be_performed_are_a_wrong_use()
+{
+    const Run done = run({_robot, "--dump", "--action", "onActionFly", "--action",
+                          "onActionExpandAllNodes", "--action", "destroy everything"});
+    QCOMPARE(done.code, 2);
+    QCOMPARE(done.error,
+             QByteArray("subnode-workbench: There is no action \"onActionFly\".\n"
+                        "subnode-workbench: The action \"onActionExpandAllNodes\" is not "
+                        "available now.\n"
+                        "subnode-workbench: There is no action \"destroy everything\".\n"));
+    QVERIFY(done.out.startsWith("robot"));
 }
 
 void tst_program::unknown_subnodes_are_a_wrong_use()
