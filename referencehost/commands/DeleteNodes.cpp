@@ -7,7 +7,6 @@
 #include "referencehost/scene/SceneWalk.h"
 
 #include <algorithm>
-#include <ranges>
 
 namespace {
 
@@ -82,9 +81,9 @@ bool DeleteNodes::undo()
     if (std::ranges::any_of(_places, isGone))
         return false;
     const SL_Selection::BatchSelectionModeScope scope(_selection);
-    for (Place& place : std::views::reverse(_places)) {
-        auto* group = dynamic_cast<MO_GroupModule*>(place.group.get());
-        MO_Node* node = group->insertNode(std::move(place.taken), place.position);
+    for (auto place = _places.rbegin(); place != _places.rend(); ++place) {
+        auto* group = dynamic_cast<MO_GroupModule*>(place->group.get());
+        MO_Node* node = group->insertNode(std::move(place->taken), place->position);
         // Its drawings come back with it.
         if (TUSceneChangeManager* changes = changeManagerOf(*node))
             changes->emitNodeChanged(node);
