@@ -23,6 +23,13 @@ public:
     /// case; null, an empty command and one that fails give false and leave no step.
     bool execute(CO_Command* command, const QString& name);
 
+    /// Keeps a command that has taken effect already. Null is ignored.
+    void addExecuted(std::unique_ptr<CO_Command> command, const QString& name);
+
+    /// Between these, steps are gathered into one; CO_CommandAccumScope pairs them.
+    void beginAccumulation(const QString& name);
+    void endAccumulation();
+
     /// The history, for menus and lists; owned by the manager. Undo and redo go through it.
     QUndoStack* history() const;
 

@@ -4,6 +4,7 @@
 #include "host/models/AT_ModelNodeData.h"
 #include "host/models/AT_ModelNodeKey.h"
 
+#include <algorithm>
 #include <map>
 
 /// The settings of a model's subnodes at a frame: one record for each subnode that differs, or
@@ -28,6 +29,14 @@ public:
         _records.insert_or_assign(key, data);
     }
     void removeNodeData(const AT_ModelNodeKey& key) { _records.erase(key); }
+
+    /// Whether a subnode is moved from where it was modelled.
+    bool hasSubTransformations() const
+    {
+        return std::any_of(_records.begin(), _records.end(), [](const auto& record) {
+            return !(record.second.transformation == osg::Matrix());
+        });
+    }
 
     friend bool operator==(const AT_ModelData&, const AT_ModelData&) = default;
 

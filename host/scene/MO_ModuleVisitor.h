@@ -6,7 +6,9 @@
 class MO_DisplayModule;
 class MO_ElementModule;
 class MO_GroupModule;
+class MO_KinematicOutputModule;
 class MO_Module;
+class MO_PassThroughModule;
 class MO_PegModule;
 
 /// One operation for each kind of module. Modules passed to it are never null.
@@ -19,6 +21,8 @@ public:
     virtual void visit(MO_ElementModule* module) = 0;
     virtual void visit(MO_PegModule* module) = 0;
     virtual void visit(MO_DisplayModule* module) = 0;
+    virtual void visit(MO_KinematicOutputModule* module) = 0;
+    virtual void visit(MO_PassThroughModule* module) = 0;
 };
 
 /// Sends every kind of module that a subclass does not take up to one operation for any module.
@@ -29,6 +33,8 @@ public:
     void visit(MO_ElementModule* module) override;
     void visit(MO_PegModule* module) override;
     void visit(MO_DisplayModule* module) override;
+    void visit(MO_KinematicOutputModule* module) override;
+    void visit(MO_PassThroughModule* module) override;
 
     virtual void visit(MO_Module* module) = 0;
 };

@@ -2,10 +2,14 @@
 #pragma once
 
 #include "host/scene/MO_Module.h"
+#include "host/scene/MO_Port.h"
+#include "host/scene/SC_SceneMetrics.h"
 #include "host/scene/UT_SharedWeakPtr.h"
 
 #include <memory>
+#include <vector>
 
+class AT_Attr;
 class MO_GroupModule;
 class SC_SceneCommon;
 class SLB_NodeInterface;
@@ -31,6 +35,26 @@ public:
     void setX(double x);
     void setY(double y);
 
+    /// @name The network
+    /// @{
+    int nInPorts() const;
+    int nOutPorts() const;
+    /// Null when there is no port of that index.
+    MO_Port* inPort(int index) const;
+    MO_Port* outPort(int index) const;
+    /// Adds a port behind those that are there.
+    MO_Port* addPort(MO_Port::Direction direction);
+    /// @}
+
+    /// @name Attributes, in the order in which the kind of node declares them
+    /// @{
+    using AttrIterator = std::vector<AT_Attr*>::const_iterator;
+    AttrIterator attrsBegin() const;
+    AttrIterator attrsEnd() const;
+    /// @}
+
+    SC_SceneMetrics sceneMetrics() const;
+
     /// The group that holds the node; null while detached and for a root group.
     MO_GroupModule* parentGroup() const;
 
@@ -45,6 +69,9 @@ public:
 
 protected:
     explicit MO_Node(const QString& instanceName);
+
+    /// The node takes ownership.
+    void addAttr(std::unique_ptr<AT_Attr> attr);
 
     /// Called when the node enters a scene or leaves it (null), for each node by itself.
     virtual void setScene(TUScene* scene);

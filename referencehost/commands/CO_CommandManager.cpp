@@ -3,6 +3,7 @@
 
 #include "host/commands/CO_Command.h"
 #include "host/scene/TUSceneChangeManager.h"
+#include "referencehost/commands/CommandSequence.h"
 #include "referencehost/commands/UndoStep.h"
 
 #include <QUndoStack>
@@ -16,6 +17,9 @@ struct CO_CommandManager::Private
 
     TUSceneChangeManager* changeManager;
     QUndoStack history;
+    int openScopes = 0;
+    QString accumulatedName;
+    std::unique_ptr<CommandSequence> accumulated;
 };
 
 CO_CommandManager::CO_CommandManager(TUSceneChangeManager* changeManager)
@@ -38,8 +42,34 @@ bool CO_CommandManager::execute(CO_Command* command, const QString& name)
     std::unique_ptr<CO_Command> owned(command);
     if (!owned || owned->empty() || !owned->execute())
         return false;
-    d->history.push(new UndoStep(std::move(owned), name));
+    addExecuted(std::move(owned), name);
     return true;
+}
+
+void CO_CommandManager::addExecuted(std::unique_ptr<CO_Command> command, const QString& name)
+{
+    if (!command)
+        return;
+    if (d->openScopes > 0)
+        d->accumulated->append(std::move(command));
+    else
+        d->history.push(new UndoStep(std::move(command), name));
+}
+
+void CO_CommandManager::beginAccumulation(const QString& name)
+{
+    if (d->openScopes++ > 0)
+        return;
+    d->accumulatedName = name;
+    d->accumulated = std::make_unique<CommandSequence>();
+}
+
+void CO_CommandManager::endAccumulation()
+{
+    if (--d->openScopes > 0)
+        return;
+    if (std::unique_ptr<CommandSequence> gathered = std::move(d->accumulated); !gathered->empty())
+        addExecuted(std::move(gathered), d->accumulatedName);
 }
 
 QUndoStack* CO_CommandManager::history() const

@@ -6,6 +6,7 @@
 MO_DisplayModule::MO_DisplayModule(const QString& instanceName)
     : MO_Node(instanceName)
 {
+    addPort(MO_Port::eInput);
 }
 
 QString MO_DisplayModule::typeName() const

@@ -36,6 +36,8 @@ MO_ElementModule::MO_ElementModule(const QString& instanceName)
     : MO_Node(instanceName)
     , e(std::make_unique<Private>())
 {
+    addPort(MO_Port::eInput);
+    addPort(MO_Port::eOutput);
 }
 
 MO_ElementModule::~MO_ElementModule() = default;

@@ -4,6 +4,8 @@
 #include "host/scene/MO_DisplayModule.h"
 #include "host/scene/MO_ElementModule.h"
 #include "host/scene/MO_GroupModule.h"
+#include "host/scene/MO_KinematicOutputModule.h"
+#include "host/scene/MO_PassThroughModule.h"
 #include "host/scene/MO_PegModule.h"
 
 MO_AbstractModuleVisitor::~MO_AbstractModuleVisitor() = default;
@@ -24,6 +26,16 @@ void MO_AbstractModuleVisitorWithModuleFallback::visit(MO_PegModule* module)
 }
 
 void MO_AbstractModuleVisitorWithModuleFallback::visit(MO_DisplayModule* module)
+{
+    visit(static_cast<MO_Module*>(module));
+}
+
+void MO_AbstractModuleVisitorWithModuleFallback::visit(MO_KinematicOutputModule* module)
+{
+    visit(static_cast<MO_Module*>(module));
+}
+
+void MO_AbstractModuleVisitorWithModuleFallback::visit(MO_PassThroughModule* module)
 {
     visit(static_cast<MO_Module*>(module));
 }

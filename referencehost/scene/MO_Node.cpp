@@ -61,6 +61,54 @@ void MO_Node::setY(double y)
         changes->emitNodeChanged(this);
 }
 
+int MO_Node::nInPorts() const
+{
+    return static_cast<int>(d->inPorts.size());
+}
+
+int MO_Node::nOutPorts() const
+{
+    return static_cast<int>(d->outPorts.size());
+}
+
+MO_Port* MO_Node::inPort(int index) const
+{
+    return index >= 0 && index < nInPorts() ? d->inPorts[index].get() : nullptr;
+}
+
+MO_Port* MO_Node::outPort(int index) const
+{
+    return index >= 0 && index < nOutPorts() ? d->outPorts[index].get() : nullptr;
+}
+
+MO_Port* MO_Node::addPort(MO_Port::Direction direction)
+{
+    auto& ports = direction == MO_Port::eInput ? d->inPorts : d->outPorts;
+    ports.push_back(std::make_unique<MO_Port>(this, direction));
+    return ports.back().get();
+}
+
+MO_Node::AttrIterator MO_Node::attrsBegin() const
+{
+    return d->plainAttrs.cbegin();
+}
+
+MO_Node::AttrIterator MO_Node::attrsEnd() const
+{
+    return d->plainAttrs.cend();
+}
+
+void MO_Node::addAttr(std::unique_ptr<AT_Attr> attr)
+{
+    d->plainAttrs.push_back(attr.get());
+    d->attrs.push_back(std::move(attr));
+}
+
+SC_SceneMetrics MO_Node::sceneMetrics() const
+{
+    return {};
+}
+
 MO_GroupModule* MO_Node::parentGroup() const
 {
     return d->parentGroup;

@@ -6,6 +6,8 @@
 MO_PegModule::MO_PegModule(const QString& instanceName)
     : MO_Node(instanceName)
 {
+    addPort(MO_Port::eInput);
+    addPort(MO_Port::eOutput);
 }
 
 QString MO_PegModule::typeName() const

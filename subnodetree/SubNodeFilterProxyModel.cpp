@@ -1,0 +1,128 @@
+// SPDX-License-Identifier: MIT
+
+#include "subnodetree/SubNodeFilterProxyModel.h"
+
+#include "subnodetree/SGV_GraphItem.h"
+#include "subnodetree/SGV_GraphModel.h"
+
+#include <QRegularExpression>
+#include <algorithm>
+#include <typeinfo>
+#include <vector>
+
+namespace {
+
+QRegularExpression caseInsensitive(const QRegularExpression& pattern)
+{
+    QRegularExpression copy = pattern;
+    copy.setPatternOptions(pattern.patternOptions() | QRegularExpression::CaseInsensitiveOption);
+    return copy;
+}
+
+bool isAscii(const QString& text)
+{
+    return std::ranges::all_of(text, [](QChar c) { return c.unicode() < 0x80; });
+}
+
+} // namespace
+
+/// Which rows of a model the filter accepts, found for all of them in one pass upwards and kept
+/// until the pattern or the rows change.
+class SubNodeFilterProxyModel::Matches
+{
+public:
+    void setLiteral(const QString& text) { _literal = text; }
+
+    bool accepts(const SGV_GraphModel& model, const SGV_GraphItem& item,
+                 const QRegularExpression& pattern)
+    {
+        if (_model != &model || _rebuildCount != model.rebuildCount() || _pattern != pattern)
+            find(model, pattern);
+        return item.order() >= 0 && _accepted[static_cast<std::size_t>(item.order())];
+    }
+
+private:
+    void find(const SGV_GraphModel& model, const QRegularExpression& pattern)
+    {
+        _model = &model;
+        _rebuildCount = model.rebuildCount();
+        _pattern = pattern;
+        const std::vector<SGV_GraphItem*>& items = model.items();
+        _accepted.assign(items.size(), false);
+        const QRegularExpression insensitive = caseInsensitive(pattern);
+        // Nearly all names and filters are plain ASCII, of which a literal search gives the same.
+        const bool isLiteral = isAscii(_literal) &&
+                               pattern.pattern() == QRegularExpression::escape(_literal) &&
+                               pattern.patternOptions() == QRegularExpression::NoPatternOption;
+        for (auto item = items.rbegin(); item != items.rend(); ++item) {
+            const QString& name = (*item)->name();
+            const auto order = static_cast<std::size_t>((*item)->order());
+            if (!_accepted[order]) {
+                _accepted[order] = isLiteral && isAscii(name)
+                                       ? name.contains(_literal, Qt::CaseInsensitive)
+                                       : insensitive.match(name).hasMatch();
+            }
+            const SGV_GraphItem* parent = (*item)->parent();
+            if (_accepted[order] && parent->order() >= 0)
+                _accepted[static_cast<std::size_t>(parent->order())] = true;
+        }
+    }
+
+    const SGV_GraphModel* _model = nullptr;
+    quint64 _rebuildCount = 0;
+    QRegularExpression _pattern;
+    QString _literal;
+    std::vector<bool> _accepted;
+};
+
+SubNodeFilterProxyModel::SubNodeFilterProxyModel(QObject* parent)
+    : QSortFilterProxyModel(parent)
+    , _matches(std::make_unique<Matches>())
+{
+}
+
+SubNodeFilterProxyModel::~SubNodeFilterProxyModel() = default;
+
+void SubNodeFilterProxyModel::setFilterFixedString(const QString& text)
+{
+    beginResetModel();
+    {
+        const QSignalBlocker blocker(this);
+        // Without rows, the base class has nothing to take out one by one.
+        QSortFilterProxyModel::invalidate();
+        _matches->setLiteral(text);
+        QSortFilterProxyModel::setFilterFixedString(text);
+    }
+    endResetModel();
+}
+
+bool SubNodeFilterProxyModel::filterAcceptsRow(int sourceRow, const QModelIndex& sourceParent) const
+{
+    const QModelIndex index =
+        sourceModel() ? sourceModel()->index(sourceRow, 0, sourceParent) : QModelIndex();
+    if (!index.isValid())
+        return false;
+    const QRegularExpression pattern = filterRegularExpression();
+    if (pattern.pattern().isEmpty())
+        return true;
+    // A subclass may have an answer of its own for the rows below.
+    const auto* model = qobject_cast<const SGV_GraphModel*>(sourceModel());
+    if (model && typeid(*this) == typeid(SubNodeFilterProxyModel)) {
+        const auto* item = static_cast<const SGV_GraphItem*>(index.internalPointer());
+        return _matches->accepts(*model, *item, pattern);
+    }
+    return acceptsByWalk(index);
+}
+
+bool SubNodeFilterProxyModel::acceptsByWalk(const QModelIndex& index) const
+{
+    const QString name = index.data(SGV_GraphModel::SubnodeKeyRole).toString();
+    if (caseInsensitive(filterRegularExpression()).match(name).hasMatch())
+        return true;
+    const int rows = sourceModel()->rowCount(index);
+    for (int row = 0; row < rows; ++row) {
+        if (filterAcceptsRow(row, index))
+            return true;
+    }
+    return false;
+}
