@@ -4,6 +4,7 @@
 
 #include <QGraphicsScene>
 #include <QGraphicsView>
+#include <QPalette>
 #include <QScrollBar>
 
 namespace {
@@ -19,6 +20,10 @@ void GV_FixedCanvas::prepare(QGraphicsView& view, QGraphicsScene& scene)
     view.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     view.setAlignment(Qt::Alignment());
     view.setTransformationAnchor(QGraphicsView::NoAnchor);
+    // The pen that the painter comes with draws outlines, which stay black on a dark desktop, too.
+    QPalette palette = view.viewport()->palette();
+    palette.setColor(view.viewport()->foregroundRole(), Qt::black);
+    view.viewport()->setPalette(palette);
     // An index costs more than it saves with two items, one of which is everywhere.
     scene.setItemIndexMethod(QGraphicsScene::NoIndex);
     view.setScene(&scene);

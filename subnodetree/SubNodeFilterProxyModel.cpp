@@ -8,6 +8,7 @@
 #include <QRegularExpression>
 #include <algorithm>
 #include <typeinfo>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -22,6 +23,20 @@ QRegularExpression caseInsensitive(const QRegularExpression& pattern)
 bool isAscii(const QString& text)
 {
     return std::ranges::all_of(text, [](QChar c) { return c.unicode() < 0x80; });
+}
+
+char16_t asciiLower(QChar c)
+{
+    const char16_t unit = c.unicode();
+    return unit >= u'A' && unit <= u'Z' ? unit + (u'a' - u'A') : unit;
+}
+
+/// Whether the text contains the other one, which is in lower case, whatever its own case. Both are
+/// ASCII, where there is no more to it than this; Qt's search is made for all of Unicode.
+bool containsAscii(const QString& text, const QString& lowerCase)
+{
+    return std::search(text.begin(), text.end(), lowerCase.begin(), lowerCase.end(),
+                       [](QChar a, QChar b) { return asciiLower(a) == b.unicode(); }) != text.end();
 }
 
 } // namespace
@@ -50,6 +65,7 @@ private:
         const std::vector<SGV_GraphItem*>& items = model.items();
         _accepted.assign(items.size(), false);
         const QRegularExpression insensitive = caseInsensitive(pattern);
+        const QString lowerCase = _literal.toLower();
         // Nearly all names and filters are plain ASCII, of which a literal search gives the same.
         const bool isLiteral = isAscii(_literal) &&
                                pattern.pattern() == QRegularExpression::escape(_literal) &&
@@ -58,9 +74,8 @@ private:
             const QString& name = (*item)->name();
             const auto order = static_cast<std::size_t>((*item)->order());
             if (!_accepted[order]) {
-                _accepted[order] = isLiteral && isAscii(name)
-                                       ? name.contains(_literal, Qt::CaseInsensitive)
-                                       : insensitive.match(name).hasMatch();
+                _accepted[order] = isLiteral && isAscii(name) ? containsAscii(name, lowerCase)
+                                                              : insensitive.match(name).hasMatch();
             }
             const SGV_GraphItem* parent = (*item)->parent();
             if (_accepted[order] && parent->order() >= 0)
@@ -86,14 +101,21 @@ SubNodeFilterProxyModel::~SubNodeFilterProxyModel() = default;
 void SubNodeFilterProxyModel::setFilterFixedString(const QString& text)
 {
     beginResetModel();
-    {
-        const QSignalBlocker blocker(this);
-        // Without rows, the base class has nothing to take out one by one.
-        QSortFilterProxyModel::invalidate();
-        _matches->setLiteral(text);
-        QSortFilterProxyModel::setFilterFixedString(text);
-    }
+    _newText = text;
     endResetModel();
+}
+
+void SubNodeFilterProxyModel::resetInternalData()
+{
+    QSortFilterProxyModel::resetInternalData();
+    if (!_newText)
+        return;
+    // By now nobody keeps an index any more, so that the base class can forget what it knows of the
+    // rows, and then has none to take out one by one. Views hear of it all when the reset ends.
+    const QSignalBlocker blocker(this);
+    QSortFilterProxyModel::invalidate();
+    _matches->setLiteral(*_newText);
+    QSortFilterProxyModel::setFilterFixedString(*std::exchange(_newText, std::nullopt));
 }
 
 bool SubNodeFilterProxyModel::filterAcceptsRow(int sourceRow, const QModelIndex& sourceParent) const

@@ -5,6 +5,7 @@
 
 #include <QSortFilterProxyModel>
 #include <memory>
+#include <optional>
 
 class SGV_GraphModel;
 
@@ -24,6 +25,9 @@ public slots:
     /// selections of views go without being told.
     void setFilterFixedString(const QString& text);
 
+protected slots:
+    void resetInternalData() override;
+
 protected:
     bool filterAcceptsRow(int sourceRow, const QModelIndex& sourceParent) const override;
 
@@ -32,4 +36,6 @@ private:
 
     class Matches;
     std::unique_ptr<Matches> _matches;
+    /// The filter that the reset under way is for.
+    std::optional<QString> _newText;
 };

@@ -26,14 +26,16 @@ struct Options
         "action", tr("Performs the action NAME, as menus do, after selecting; can be repeated."),
         "NAME"};
 
+    QCommandLineOption theme{"theme", tr("How the window looks: light, dark or system."), "NAME"};
+
     static QString tr(const char* text) { return QCoreApplication::translate("CommandLine", text); }
 
     void addTo(QCommandLineParser& parser) const
     {
         parser.setApplicationDescription(
             tr("Shows the inner hierarchy of 3D models and works on their parts."));
-        parser.addOptions(
-            {help, version, formats, dump, extended, screenshot, size, frame, select, action});
+        parser.addOptions({help, version, formats, dump, extended, screenshot, size, frame, select,
+                           action, theme});
         parser.addPositionalArgument("MODEL",
                                      tr("A model file to open; its element is named "
                                         "after it. The first one is selected."),
@@ -89,6 +91,13 @@ CommandLine::Outcome CommandLine::parse(const QStringList& arguments)
             return failure(Options::tr("--size needs a width and a height such as 1000x800, not "
                                        "\"%1\".")
                                .arg(parser.value(options.size)));
+        }
+    }
+    if (parser.isSet(options.theme)) {
+        line.theme = parser.value(options.theme);
+        if (!QStringList{"light", "dark", "system"}.contains(line.theme)) {
+            return failure(
+                Options::tr("--theme is light, dark or system, not \"%1\".").arg(line.theme));
         }
     }
     if (parser.isSet(options.frame)) {

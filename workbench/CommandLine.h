@@ -21,6 +21,8 @@ struct CommandLine
     /// The actions to perform then, in order, each a slot such as "selectAll" or, with its
     /// argument, "onActionMoveWorld(1)".
     QStringList actions;
+    /// light, dark or system.
+    QString theme = QStringLiteral("system");
     bool extended = false;
     bool dump = false;
     bool formats = false;

@@ -9,8 +9,10 @@
 #include "host/scene/MO_ElementModule.h"
 #include "host/scene/SC_SessionContext.h"
 #include "referencehost/session/HostSession.h"
+#include "subnodetree/SGV_Graph3DView.h"
 #include "workbench/FrameBox.h"
 #include "workbench/ImportProgressDialog.h"
+#include "workbench/Resources.h"
 #include "workbench/SceneListDock.h"
 #include "workbench/ViewDock.h"
 #include "workbench/import/ModelImporter.h"
@@ -23,16 +25,11 @@
 #include <QToolBar>
 #include <QUndoStack>
 
-/// The linker leaves out resources of a static library that nobody names.
-static void initResources()
-{
-    Q_INIT_RESOURCE(workbench);
-}
-
 namespace {
 
 constexpr QSize initialSize(1100, 800);
-constexpr int sceneListWidth = 220;
+constexpr int listWidth = 270;
+constexpr int sceneListHeight = 160;
 
 /// The platform's own keys, and the two that people try.
 QList<QKeySequence> redoKeys()
@@ -60,12 +57,15 @@ WorkbenchWindow::WorkbenchWindow(HostSession& session)
     : _session(session)
     , _loader(session)
     , _graphView(new GV_GraphXViewQt(session.context().actionManager(), this, &session.context()))
+    , _treeView(new SGV_Graph3DView(session.context().actionManager(), this, &session.context()))
     , _progress(new ImportProgressDialog(_loader, this))
 {
     setWindowTitle(tr("Subnode Workbench"));
     resize(initialSize);
     _graphView->init(new GV_GraphXViewCtrl(_graphView, &session.context()));
+    // The colours of rows come with the style sheet, and the menus with the definitions.
     loadActions();
+    _treeView->init();
     createDocks();
     createMenus();
     createToolBars();
@@ -78,7 +78,7 @@ WorkbenchWindow::~WorkbenchWindow() = default;
 
 void WorkbenchWindow::loadActions()
 {
-    initResources();
+    initWorkbenchResources();
     AC_Manager* manager = _session.context().actionManager();
     QFile definitions(QStringLiteral(":/workbench/actions.xml"));
     QString error;
@@ -93,12 +93,19 @@ void WorkbenchWindow::createDocks()
     setDockNestingEnabled(true);
     _sceneList = new SceneListDock(_session, this);
     addDockWidget(Qt::LeftDockWidgetArea, _sceneList);
-    _graphDock = new ViewDock(tr("Graph View"), _graphView, this);
+    AC_Manager* manager = _session.context().actionManager();
+    _treeDock = new ViewDock(tr("Subnode Tree"), _treeView, manager, this);
+    _treeDock->setObjectName(QStringLiteral("TreeDock"));
+    _treeDock->setKeptWhenClosed(true);
+    addDockWidget(Qt::LeftDockWidgetArea, _treeDock);
+    _graphDock = new ViewDock(tr("Graph View"), _graphView, manager, this);
     _graphDock->setObjectName(QStringLiteral("GraphDock"));
     _graphDock->setKeptWhenClosed(true);
     addDockWidget(Qt::RightDockWidgetArea, _graphDock);
-    resizeDocks({_sceneList, _graphDock}, {sceneListWidth, initialSize.width() - sceneListWidth},
+    resizeDocks({_sceneList, _graphDock}, {listWidth, initialSize.width() - listWidth},
                 Qt::Horizontal);
+    resizeDocks({_sceneList, _treeDock}, {sceneListHeight, initialSize.height() - sceneListHeight},
+                Qt::Vertical);
 }
 
 void WorkbenchWindow::createMenus()
@@ -119,7 +126,7 @@ void WorkbenchWindow::createMenus()
     redo->setShortcuts(redoKeys());
     edit->addActions({undo, redo});
     edit->addSeparator();
-    for (const char* id : {"GRAPH_SELECT_ALL", "GRAPH_DESELECT"})
+    for (const char* id : {"SELECT_ALL", "DESELECT"})
         edit->addAction(manager->action(QString::fromLatin1(id)));
 
     for (const char* id : {"VIEW_MENU", "SUBNODES_MENU"})
@@ -131,7 +138,8 @@ void WorkbenchWindow::createMenus()
                           tr("New &Graph View"), this, &WorkbenchWindow::openGraphView);
     another->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_N);
     window->addSeparator();
-    window->addActions({_sceneList->toggleViewAction(), _graphDock->toggleViewAction()});
+    window->addActions({_sceneList->toggleViewAction(), _treeDock->toggleViewAction(),
+                        _graphDock->toggleViewAction()});
 }
 
 void WorkbenchWindow::createToolBars()
@@ -148,7 +156,8 @@ void WorkbenchWindow::createToolBars()
 ViewDock* WorkbenchWindow::openGraphView()
 {
     TULayoutView* view = _graphView->clone(this);
-    auto* dock = new ViewDock(tr("Graph View %1").arg(++_openedGraphViews), view, this);
+    auto* dock = new ViewDock(tr("Graph View %1").arg(++_openedGraphViews), view,
+                              _session.context().actionManager(), this);
     if (_graphDock->isHidden())
         addDockWidget(Qt::RightDockWidgetArea, dock);
     else

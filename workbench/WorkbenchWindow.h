@@ -9,6 +9,7 @@ class GV_GraphXViewQt;
 class HostSession;
 class ImportProgressDialog;
 class SceneListDock;
+class SGV_Graph3DView;
 class ViewDock;
 
 /// The window of the workbench: docks with the views over the session's scene, the list of the
@@ -25,6 +26,7 @@ public:
     ModelLoader& loader() { return _loader; }
     /// The graph view that stays when it is closed.
     GV_GraphXViewQt& graphView() { return *_graphView; }
+    SGV_Graph3DView& treeView() { return *_treeView; }
     SceneListDock& sceneList() { return *_sceneList; }
 
     /// Opens another graph view beside the one that last had the focus.
@@ -45,7 +47,9 @@ private:
     HostSession& _session;
     ModelLoader _loader;
     GV_GraphXViewQt* _graphView;
+    SGV_Graph3DView* _treeView;
     ViewDock* _graphDock = nullptr;
+    ViewDock* _treeDock = nullptr;
     SceneListDock* _sceneList = nullptr;
     ImportProgressDialog* _progress;
     int _openedGraphViews = 1;

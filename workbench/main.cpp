@@ -8,6 +8,7 @@
 #include "referencehost/session/HostSession.h"
 #include "workbench/BatchRun.h"
 #include "workbench/CommandLine.h"
+#include "workbench/Theme.h"
 #include "workbench/WorkbenchWindow.h"
 #include "workbench/import/ModelImporter.h"
 
@@ -134,6 +135,7 @@ int main(int argc, char** argv)
     QApplication::setApplicationName(QStringLiteral("subnode-workbench"));
     QApplication::setOrganizationName(QStringLiteral("subnode-views"));
     QApplication::setApplicationVersion(QStringLiteral(SUBNODEVIEWS_VERSION));
+    Theme::apply(Theme::fromName(outcome.commandLine->theme).value_or(Theme::Light));
     osg::osgInit(argc, argv);
     const int code = run(*outcome.commandLine);
     osg::osgExit();

@@ -67,8 +67,8 @@ public:
     /// @name Routing
     /// @{
 
-    /// Offers the action to the responder with the identity that last had the focus. True when it
-    /// was handled.
+    /// Offers the action to the responder with the identity that last had the focus; "*" stands for
+    /// any identity. True when it was handled.
     bool route(const QString& identity, AC_ActionInfo& info) const;
     /// Offers the action to one responder after the other, the last one to have the focus first,
     /// until one handles it.

@@ -208,6 +208,8 @@ QToolBar* AC_Manager::createToolBar(const QString& id, QWidget* parent) const
 
 bool AC_Manager::route(const QString& identity, AC_ActionInfo& info) const
 {
+    if (identity == QLatin1String("*"))
+        return routeToAny(info);
     const std::vector<AC_Responder*> candidates = responders(identity);
     return !candidates.empty() && candidates.front()->perform(&info) != AC_NotHandled;
 }

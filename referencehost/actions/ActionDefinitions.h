@@ -33,7 +33,8 @@ struct ActionDefinition
 ///       <toolbar id="VIEW_BAR" text="View"> <item action="ZOOM_IN"/> </toolbar>
 ///     </definitions>
 ///
-/// An action may also have an argument, an integer, and be checkable="true".
+/// An action may also have an argument, an integer, and be checkable="true". One that every kind of
+/// view has, such as selecting all, is for the responder "*": whichever last had the focus.
 class ActionDefinitions
 {
 public:

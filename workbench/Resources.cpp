@@ -1,0 +1,11 @@
+// SPDX-License-Identifier: MIT
+
+#include "workbench/Resources.h"
+
+#include <QtGlobal>
+
+void initWorkbenchResources()
+{
+    // The linker leaves out the resources of a static library that nobody names.
+    Q_INIT_RESOURCE(workbench);
+}
