@@ -31,6 +31,9 @@ constexpr double searchIconExtent = 24.0;
 constexpr double rowIconExtent = 16.0;
 constexpr int lineMargin = 5;
 
+/// How many rows the column's width is fitted to; measuring them takes most of a layout.
+constexpr int measuredRows = 250;
+
 int scaled(double extent)
 {
     return static_cast<int>(UT_Screen::getMainScreen().scaleFactor() * extent);
@@ -96,6 +99,7 @@ void SGV_Graph3DView::initTree()
     _treeView->setHeaderHidden(true);
     _treeView->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     _treeView->header()->setStretchLastSection(false);
+    _treeView->header()->setResizeContentsPrecision(measuredRows);
     _treeView->setSelectionMode(QAbstractItemView::ExtendedSelection);
     // Rows are all alike, and with thousands of them that must not be found out one by one.
     _treeView->setUniformRowHeights(true);
@@ -205,6 +209,9 @@ void SGV_Graph3DView::updateModel()
             const QScopedValueRollback guard(_rebuilding, true);
             changed = true;
             _model->setRootNode(cel->rootNodePtr());
+            // New rows know nothing of what the old ones were marked with.
+            updateNetworkConnectionsData();
+            updateVisibilityData();
         }
     } else {
         if (_model->isEmpty())

@@ -31,6 +31,7 @@ SGV_GraphModel::SGV_GraphModel(QObject* parent)
     : QAbstractItemModel(parent)
     , _rootItem(std::make_shared<SGV_GraphItem>(QString(), nullptr))
 {
+    takeItems({});
 }
 
 SGV_GraphModel::~SGV_GraphModel() = default;
@@ -123,12 +124,11 @@ void SGV_GraphModel::clear()
     // One row more than there are is announced. Views and proxies take that as everything, also
     // where nothing was left of what they last heard of.
     beginRemoveRows(QModelIndex(), 0, rowCount());
-    _items.clear();
-    _firstItems.clear();
-    ++_rebuildCount;
+    takeItems({});
     while (!_rootItem->children().isEmpty())
         _rootItem->deleteFirstChild();
     _rootNode = osg::NodePtr(osg::NullFC);
+    _connectionsData.clear();
     endRemoveRows();
 }
 
@@ -137,17 +137,31 @@ void SGV_GraphModel::setRootNode(const osg::NodePtr& node)
     // The caller may hold nothing but the reference that is let go of here.
     const osg::NodeRefPtr kept(node);
     clear();
+    // A listener that has shown another root meanwhile has the last word.
+    if (!isEmpty())
+        return;
     auto root = std::make_shared<SGV_GraphItem>(QString(), nullptr);
-    build(node, root.get());
+    std::vector<SGV_GraphItem*> items = build(node, root.get());
     beginInsertRows(index(0, 0, QModelIndex()), 0, static_cast<int>(root->children().size()));
     _rootNode = node;
     _rootItem = root;
+    takeItems(std::move(items));
     endInsertRows();
 }
 
-void SGV_GraphModel::build(const osg::NodePtr& node, SGV_GraphItem* root)
+void SGV_GraphModel::takeItems(std::vector<SGV_GraphItem*> items)
+{
+    static quint64 lastId = 0;
+    _items = std::move(items);
+    _firstItems.clear();
+    _rowsId = ++lastId;
+}
+
+std::vector<SGV_GraphItem*> SGV_GraphModel::build(const osg::NodePtr& node,
+                                                  SGV_GraphItem* root) const
 {
     // Not recursive: hierarchies can be deeper than the call stack.
+    std::vector<SGV_GraphItem*> items;
     std::vector<PendingNode> pending{{node, root}};
     while (!pending.empty()) {
         const PendingNode next = pending.back();
@@ -159,12 +173,13 @@ void SGV_GraphModel::build(const osg::NodePtr& node, SGV_GraphItem* root)
         if (isKey || _debugMode) {
             parent = newItem(next.node, isKey, next.parent);
             next.parent->append(parent);
-            parent->setOrder(static_cast<int>(_items.size()));
-            _items.push_back(parent);
+            parent->setOrder(static_cast<int>(items.size()));
+            items.push_back(parent);
         }
         for (osg::UInt32 i = next.node->getNChildren(); i > 0; --i)
             pending.push_back({next.node->getChild(i - 1), parent});
     }
+    return items;
 }
 
 SGV_GraphItem* SGV_GraphModel::newItem(const osg::NodePtr& node, bool isKey,

@@ -24,12 +24,13 @@ class SUBNODEVIEWS_EXPORT SGV_GraphModel : public QAbstractItemModel
     Q_OBJECT
 
 public:
+    /// Others know these by their numbers, which therefore never change. Qt itself uses neither.
     enum Role
     {
         /// A SGV_GraphModelIndexProperties.
-        SubnodePropertiesRole = Qt::UserRole + 1,
+        SubnodePropertiesRole = 33,
         /// The name of the node, which makes the subnode's AT_ModelNodeKey.
-        SubnodeKeyRole = Qt::UserRole + 2
+        SubnodeKeyRole = 34
     };
 
     using ConnectionsData = std::map<AT_ModelNodeKey, QString>;
@@ -67,13 +68,14 @@ public:
     QModelIndex findIndex(const AT_ModelNodeKey& key,
                           const QModelIndex& start = QModelIndex()) const;
 
-    /// All items, each before what is below it. They are the model's own, until the next rebuild,
-    /// which is counted.
+    /// All items, each before what is below it. They are the model's own, until the next rebuild.
     const std::vector<SGV_GraphItem*>& items() const { return _items; }
-    quint64 rebuildCount() const { return _rebuildCount; }
+    /// A number that no other rows of any model ever had.
+    quint64 rowsId() const { return _rowsId; }
 
 private:
-    void build(const osg::NodePtr& node, SGV_GraphItem* root);
+    std::vector<SGV_GraphItem*> build(const osg::NodePtr& node, SGV_GraphItem* root) const;
+    void takeItems(std::vector<SGV_GraphItem*> items);
     SGV_GraphItem* newItem(const osg::NodePtr& node, bool isKey, SGV_GraphItem* parent) const;
     SGV_GraphItem* itemOf(const QModelIndex& index) const;
     QModelIndex indexOf(SGV_GraphItem* item) const;
@@ -88,5 +90,5 @@ private:
     std::vector<SGV_GraphItem*> _items;
     /// The first item of each name. The names are the items' own.
     mutable QHash<QStringView, SGV_GraphItem*> _firstItems;
-    quint64 _rebuildCount = 0;
+    quint64 _rowsId = 0;
 };

@@ -13,7 +13,8 @@ namespace SGV_RowStyle {
 QIcon icon(const SGV_GraphItem& item);
 
 /// The colours of the states are offsets that are added to a base. A sum may be larger than a
-/// screen can show; it is kept as it is. Invalid without a style sheet.
+/// screen can show; it is kept as it is. Without a style sheet, the colour of a subnode of which
+/// nothing is switched off is invalid.
 QColor textColor(const SGV_GraphItem& item);
 
 } // namespace SGV_RowStyle

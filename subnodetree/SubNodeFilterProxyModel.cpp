@@ -51,7 +51,7 @@ public:
     bool accepts(const SGV_GraphModel& model, const SGV_GraphItem& item,
                  const QRegularExpression& pattern)
     {
-        if (_model != &model || _rebuildCount != model.rebuildCount() || _pattern != pattern)
+        if (_rowsId != model.rowsId() || _pattern != pattern)
             find(model, pattern);
         return item.order() >= 0 && _accepted[static_cast<std::size_t>(item.order())];
     }
@@ -59,8 +59,7 @@ public:
 private:
     void find(const SGV_GraphModel& model, const QRegularExpression& pattern)
     {
-        _model = &model;
-        _rebuildCount = model.rebuildCount();
+        _rowsId = model.rowsId();
         _pattern = pattern;
         const std::vector<SGV_GraphItem*>& items = model.items();
         _accepted.assign(items.size(), false);
@@ -83,8 +82,7 @@ private:
         }
     }
 
-    const SGV_GraphModel* _model = nullptr;
-    quint64 _rebuildCount = 0;
+    quint64 _rowsId = 0;
     QRegularExpression _pattern;
     QString _literal;
     std::vector<bool> _accepted;

@@ -10,7 +10,7 @@ struct AT_ModelNodeData
     bool visible = true;
     /// Whether the subnode's own shape is drawn; not inherited.
     bool localVisible = true;
-    /// Applied after the subnode's own transformation.
+    /// Moves the subnode within its own coordinates, before its own transformation places it.
     osg::Matrix transformation;
 
     friend bool operator==(const AT_ModelNodeData& a, const AT_ModelNodeData& b)

@@ -49,23 +49,26 @@ osg::NodeCorePtr coreOf(const osg::NodePtr& node, const CC_Transformation& trans
             return osg::Geometry::create();
         return core;
     }
-    osg::NodeCorePtr copied = core;
     inherited.shapeVisible = true;
     const AT_ModelNodeKey key(TD_nodeName(node));
+    osg::Matrix matrix = osg::KeyTransformPtr::dcast(core)->getMatrix();
+    bool isChanged = false;
     for (const auto& deformation : transformation.deformations()) {
         const AT_ModelNodeData* record = deformation->settings().nodeData(key);
         if (!record)
             continue;
         inherited.visible &= record->visible;
         inherited.shapeVisible &= record->localVisible;
-        osg::KeyTransformPtr moved = osg::KeyTransform::create();
-        osg::beginEditCP(moved);
-        moved->setMatrix(
-            movedBy(osg::KeyTransformPtr::dcast(copied)->getMatrix(), *record, modelUnits));
-        osg::endEditCP(moved);
-        copied = moved;
+        matrix = movedBy(matrix, *record, modelUnits);
+        isChanged = true;
     }
-    return copied;
+    if (!isChanged)
+        return core;
+    osg::KeyTransformPtr moved = osg::KeyTransform::create();
+    osg::beginEditCP(moved);
+    moved->setMatrix(matrix);
+    osg::endEditCP(moved);
+    return moved;
 }
 
 } // namespace

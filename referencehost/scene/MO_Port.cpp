@@ -15,8 +15,6 @@ struct MO_Port::Private
     Direction direction;
     MO_Port* source = nullptr;
     std::vector<MO_Port*> destinations;
-
-    void collect(std::vector<MO_Port*>& found, std::set<const MO_Port*>& underWay) const;
 };
 
 MO_Port::MO_Port(MO_Node* node, Direction direction)
@@ -52,33 +50,42 @@ std::vector<MO_Port*> MO_Port::dstPorts() const
     return d->destinations;
 }
 
-/// Follows the links; a ring of nodes that pass on to each other ends where it began.
-void MO_Port::Private::collect(std::vector<MO_Port*>& found,
-                               std::set<const MO_Port*>& underWay) const
-{
-    for (MO_Port* destination : destinations) {
-        MO_Node* receiver = destination->node();
-        if (!node->scene() || receiver->scene() != node->scene())
-            continue;
-        if (!dynamic_cast<MO_PassThroughModule*>(receiver)) {
-            found.push_back(destination);
-            continue;
-        }
-        for (int i = 0; i < receiver->nOutPorts(); ++i) {
-            const MO_Port* passedOn = receiver->outPort(i);
-            if (underWay.insert(passedOn).second) {
-                passedOn->d->collect(found, underWay);
-                underWay.erase(passedOn);
-            }
-        }
-    }
-}
-
 std::vector<MO_Port*> MO_Port::realDstPorts() const
 {
+    // A walk in depth, along a path of ports, and not recursive: chains may be long. A ring of
+    // nodes that pass on to each other ends where it began.
+    struct Step
+    {
+        const MO_Port* port;
+        std::size_t nextDestination = 0;
+        int nextOutput = 0;
+    };
     std::vector<MO_Port*> found;
-    std::set<const MO_Port*> underWay{this};
-    d->collect(found, underWay);
+    std::set<const MO_Port*> path{this};
+    std::vector<Step> steps{{this}};
+    while (!steps.empty()) {
+        Step& step = steps.back();
+        const std::vector<MO_Port*>& destinations = step.port->d->destinations;
+        if (step.nextDestination == destinations.size()) {
+            path.erase(step.port);
+            steps.pop_back();
+            continue;
+        }
+        MO_Port* destination = destinations[step.nextDestination];
+        const MO_Node* receiver = destination->node();
+        const bool isInScene = d->node->scene() && receiver->scene() == d->node->scene();
+        const bool passesOn = dynamic_cast<const MO_PassThroughModule*>(receiver);
+        if (!isInScene || !passesOn || step.nextOutput == receiver->nOutPorts()) {
+            if (isInScene && !passesOn)
+                found.push_back(destination);
+            ++step.nextDestination;
+            step.nextOutput = 0;
+            continue;
+        }
+        const MO_Port* passedOn = receiver->outPort(step.nextOutput++);
+        if (path.insert(passedOn).second)
+            steps.push_back({passedOn});
+    }
     return found;
 }
 

@@ -18,14 +18,23 @@ PressedKeys::PressedKeys()
             });
 }
 
+void PressedKeys::release(const QKeyEvent& event)
+{
+    _keys.remove(event.key());
+    // With another modifier held than at the press, the same key goes by another name.
+    const quint32 scanCode = event.nativeScanCode();
+    if (scanCode != 0)
+        _keys.removeIf([scanCode](auto it) { return it.value() == scanCode; });
+}
+
 bool PressedKeys::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease) {
         const auto* key = static_cast<const QKeyEvent*>(event);
         if (event->type() == QEvent::KeyPress)
-            _keys.insert(key->key());
+            _keys.insert(key->key(), key->nativeScanCode());
         else if (!key->isAutoRepeat())
-            _keys.remove(key->key());
+            release(*key);
     }
     return QObject::eventFilter(watched, event);
 }

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QHash>
 #include <QObject>
-#include <QSet>
+
+class QKeyEvent;
 
 /// Follows which keys are held down, from the key events of the whole application.
 class PressedKeys : public QObject
@@ -17,5 +19,8 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    QSet<int> _keys;
+    void release(const QKeyEvent& event);
+
+    /// With the scan code of each, which does not depend on modifiers; 0 where there is none.
+    QHash<int, quint32> _keys;
 };

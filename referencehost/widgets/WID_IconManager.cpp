@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "host/widgets/WID_IconManager.h"
 
+#include <QFileInfo>
 #include <QPainter>
 #include <QPixmap>
 
@@ -31,8 +32,11 @@ WID_IconManager& WID_IconManager::instance()
 
 QIcon WID_IconManager::addBlendedIcon(const QString& resource, const QColor& background)
 {
-    const QIcon plain(QStringLiteral(":/icons/") + resource);
-    if (plain.isNull() || plain.availableSizes().isEmpty() || !background.isValid())
+    const QString path = QStringLiteral(":/icons/") + resource;
+    if (!QFileInfo(path).isFile())
+        return {};
+    const QIcon plain(path);
+    if (!background.isValid())
         return plain;
     QIcon icon;
     for (const int size : sizes) {

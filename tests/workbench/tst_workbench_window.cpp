@@ -4,6 +4,8 @@
 
 #include "host/actions/AC_Manager.h"
 #include "host/scene/SC_CurrentFrameInterface.h"
+#include "subnodetree/SGV_Graph3DView.h"
+#include "subnodetree/SGV_GraphModel.h"
 #include "tests/workbench/WindowTest.h"
 #include "workbench/FrameBox.h"
 #include "workbench/ViewDock.h"
@@ -13,6 +15,7 @@
 #include <QMouseEvent>
 #include <QPointer>
 #include <QToolBar>
+#include <QToolButton>
 #include <utility>
 
 /// The window as a whole: its views, menus and tool bars.
@@ -56,11 +59,14 @@ private slots:
     void init() { openWindow(); }
     void cleanup() { closeWindow(); }
 
-    void docks_hold_the_list_and_the_graph()
+    void docks_hold_the_list_and_the_views()
     {
         QVERIFY(_window->sceneList().isVisible());
         QVERIFY(graph().isVisible());
-        QCOMPARE(_window->findChildren<ViewDock*>().size(), 1);
+        QVERIFY(_window->treeView().isVisible());
+        QCOMPARE(_window->findChildren<ViewDock*>().size(), 2);
+        QCOMPARE(_window->treeView().model()->index(0, 0).data().toString(),
+                 QStringLiteral("Hips"));
         QCOMPARE(_window->dockWidgetArea(&_window->sceneList()), Qt::LeftDockWidgetArea);
         QVERIFY(graph().width() > list().width());
         QCOMPARE(listed(), QStringList{"robot"});
@@ -78,7 +84,7 @@ private slots:
         QCOMPARE(textsOf(menu("Subnodes")->actions()),
                  (QStringList{"Show", "Hide", "Hide All Others"}));
         QCOMPARE(textsOf(menu("Window")->actions()),
-                 (QStringList{"New Graph View", "-", "Scene", "Graph View"}));
+                 (QStringList{"New Graph View", "-", "Scene", "Subnode Tree", "Graph View"}));
         context().actionManager()->validateActions();
         QCOMPARE(textsOf(menu("View")->actions()),
                  (QStringList{"Zoom In", "Zoom Out", "Actual Size", "Go to Top Left", "Reset View",
@@ -90,15 +96,22 @@ private slots:
 
     void tool_bars_are_complete()
     {
-        const QList<QToolBar*> bars = _window->findChildren<QToolBar*>();
+        const QList<QToolBar*> bars = _window->findChildren<QToolBar*>(Qt::FindDirectChildrenOnly);
         QCOMPARE(bars.size(), 2);
         QCOMPARE(bars[0]->actions().size(), 14);
         for (const QAction* action : bars[0]->actions())
             QVERIFY2(action->isSeparator() || !action->icon().isNull(), qPrintable(action->text()));
         QCOMPARE(bars[1]->findChildren<FrameBox*>().size(), 1);
+        const auto* tree = _window->findChild<QToolBar*>(QStringLiteral("graph3dtoolbar"));
+        QVERIFY(tree && tree->isVisible());
+        // Four actions, the space, and the button of the view's menu.
+        QCOMPARE(tree->actions().size(), 6);
+        const auto* button = qobject_cast<QToolButton*>(tree->widgetForAction(tree->actions()[5]));
+        QVERIFY(button && button->menu());
+        QCOMPARE(button->menu()->objectName(), QStringLiteral("3D_GRAPH_VIEW_MENU"));
     }
 
-    void every_action_has_a_slot_in_the_graph_view()
+    void every_action_has_a_slot_in_its_views()
     {
         QFile file(QStringLiteral(":/workbench/actions.xml"));
         QVERIFY(file.open(QIODevice::ReadOnly));
@@ -107,13 +120,19 @@ private slots:
         const QDomNodeList actions = document.elementsByTagName(QStringLiteral("action"));
         QVERIFY(actions.size() > 15);
         QCOMPARE(context().actionManager()->actions().size(), std::size_t(actions.size()));
-        const QMetaObject& view = GV_GraphXViewQt::staticMetaObject;
+        const QMetaObject* graphView = &GV_GraphXViewQt::staticMetaObject;
+        const QMetaObject* treeView = &SGV_Graph3DView::staticMetaObject;
+        const QHash<QString, QList<const QMetaObject*>> views{
+            {graph().responderIdentity(), {graphView}},
+            {_window->treeView().responderIdentity(), {treeView}},
+            {QStringLiteral("*"), {graphView, treeView}}};
         for (int i = 0; i < actions.size(); ++i) {
             const QDomElement action = actions.at(i).toElement();
-            QCOMPARE(action.attribute("responder"), graph().responderIdentity());
+            QVERIFY(views.contains(action.attribute("responder")));
             const QByteArray slot = action.attribute("slot").toLatin1();
             const bool takesNumber = action.hasAttribute("argument");
-            QVERIFY2(view.indexOfSlot(slot + (takesNumber ? "(int)" : "()")) >= 0, slot);
+            for (const QMetaObject* view : views[action.attribute("responder")])
+                QVERIFY2(view->indexOfSlot(slot + (takesNumber ? "(int)" : "()")) >= 0, slot);
             QVERIFY(context().actionManager()->action(action.attribute("id")));
         }
     }
@@ -165,7 +184,7 @@ private slots:
         graph().setFocus();
         entry("Window", "New Graph View")->trigger();
         const QList<ViewDock*> docks = _window->findChildren<ViewDock*>();
-        QCOMPARE(docks.size(), 2);
+        QCOMPARE(docks.size(), 3);
         GV_GraphXViewQt& other = *viewOf(docks.last());
         QVERIFY(&other != &graph());
         QVERIFY(other.isVisible());
@@ -219,7 +238,7 @@ private slots:
 
     void the_first_view_only_hides_when_closed()
     {
-        QPointer<ViewDock> dock = _window->findChild<ViewDock*>();
+        QPointer<ViewDock> dock = _window->findChild<ViewDock*>(QStringLiteral("GraphDock"));
         dock->close();
         QVERIFY(!graph().isVisible());
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
