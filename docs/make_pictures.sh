@@ -40,4 +40,8 @@ mapfile -t steps < <(repeated 22 onActionZoomOut)
 picture smallest-text "${steps[@]}" --action onActionResetPan
 mapfile -t steps < <(repeated 24 onActionZoomOut)
 picture without-text "${steps[@]}" --action onActionResetPan
+for theme in light dark; do
+    picture "tree-$theme" --size 900x640 --theme "$theme" --select Torso --select LeftHand \
+        --action onActionHideNodes --action onActionFrameSelected
+done
 picture framed --select LeftHand --action onActionFrameSelected
