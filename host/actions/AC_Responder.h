@@ -4,6 +4,7 @@
 #include "host/HostExport.h"
 #include "host/actions/AC_Result.h"
 
+#include <QObject>
 #include <QString>
 
 class AC_ActionInfo;
@@ -26,3 +27,5 @@ public:
     /// The same without asking the parent.
     virtual AC_Result performDownToChildren(AC_ActionInfo* info) = 0;
 };
+
+Q_DECLARE_INTERFACE(AC_Responder, "AC_Responder")

@@ -27,6 +27,8 @@ public:
     ~MO_Node() override;
 
     QString instanceName() const;
+    /// The name as it is shown to the user.
+    QString displayName() const;
     void setInstanceName(const QString& name);
 
     /// The place in the node network, in its units; y grows downwards.
@@ -54,6 +56,13 @@ public:
     /// @}
 
     SC_SceneMetrics sceneMetrics() const;
+
+    /// Lets a new node know its scene, and make what it needs there, before a group takes it in.
+    void initialize(TUScene* scene);
+
+    /// Whether what the node makes is out of date.
+    bool isDirty() const;
+    void setDirty(bool dirty = true);
 
     /// The group that holds the node; null while detached and for a root group.
     MO_GroupModule* parentGroup() const;

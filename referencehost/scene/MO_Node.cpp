@@ -33,6 +33,26 @@ void MO_Node::setInstanceName(const QString& name)
         changes->emitNodeInstanceNameChanged(this);
 }
 
+QString MO_Node::displayName() const
+{
+    return d->instanceName;
+}
+
+void MO_Node::initialize(TUScene* scene)
+{
+    setScene(scene);
+}
+
+bool MO_Node::isDirty() const
+{
+    return d->dirty;
+}
+
+void MO_Node::setDirty(bool dirty)
+{
+    d->dirty = dirty;
+}
+
 double MO_Node::x() const
 {
     return d->x;

@@ -12,6 +12,7 @@
 struct MO_Node::Private
 {
     QString instanceName;
+    bool dirty = false;
     double x = 0.0;
     double y = 0.0;
     std::vector<std::unique_ptr<MO_Port>> inPorts;

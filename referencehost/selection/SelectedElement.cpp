@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "referencehost/selection/SelectedElement.h"
 
-#include "host/models/AT_ModelNodeKey.h"
+#include "host/models/AT_ModelData.h"
 #include "host/scene/MO_ElementModule.h"
 #include "referencehost/selection/SelectionChanges.h"
 
@@ -79,4 +79,42 @@ int SelectedElement::subNodeId(const AT_ModelNodeKey& key) const
 bool SelectedElement::subNodeKey(int id, AT_ModelNodeKey& key) const
 {
     return _element.getNodeKeyForSelId(id, key);
+}
+
+bool SelectedElement::settingsOf(double frame, int id, AT_ModelNodeData& settings) const
+{
+    AT_ModelNodeKey key;
+    if (!subNodeKey(id, key))
+        return false;
+    const AT_ModelData* data = _element.seqMeta(frame);
+    const AT_ModelNodeData* record = data ? data->nodeData(key) : nullptr;
+    settings = record ? *record : AT_ModelNodeData();
+    return true;
+}
+
+bool SelectedElement::subNodeVisibility(double frame, int id, std::uint32_t& state) const
+{
+    AT_ModelNodeData settings;
+    if (!settingsOf(frame, id, settings))
+        return false;
+    state = settings.visible ? 0 : 1;
+    return true;
+}
+
+bool SelectedElement::subNodeLocalVisibility(double frame, int id, std::uint32_t& state) const
+{
+    AT_ModelNodeData settings;
+    if (!settingsOf(frame, id, settings))
+        return false;
+    state = settings.localVisible ? 0 : 1;
+    return true;
+}
+
+bool SelectedElement::subNodeTransformation(double frame, int id, std::uint32_t& state) const
+{
+    AT_ModelNodeData settings;
+    if (!settingsOf(frame, id, settings))
+        return false;
+    state = settings.hasTransformation ? 1 : 0;
+    return true;
 }

@@ -5,6 +5,7 @@
 #include "referencehost/selection/OrderedIds.h"
 
 class MO_ElementModule;
+struct AT_ModelNodeData;
 class SelectionChanges;
 
 /// A selected 3D model element with the subnodes that are selected in it. Owned by the selection,
@@ -27,8 +28,15 @@ public:
 
     int subNodeId(const AT_ModelNodeKey& key) const override;
     bool subNodeKey(int id, AT_ModelNodeKey& key) const override;
+    bool subNodeVisibility(double frame, int id, std::uint32_t& state) const override;
+    bool subNodeLocalVisibility(double frame, int id, std::uint32_t& state) const override;
+    bool subNodeTransformation(double frame, int id, std::uint32_t& state) const override;
 
 private:
+    /// The settings of the subnode, its record or what holds without one; false when the id is
+    /// unknown.
+    bool settingsOf(double frame, int id, AT_ModelNodeData& settings) const;
+
     MO_ElementModule& _element;
     // While the element dies it is only a node any more, and must not be asked to become one.
     MO_Node* _node;
