@@ -9,9 +9,11 @@
 #include "host/scene/MO_ElementModule.h"
 #include "host/scene/SC_SessionContext.h"
 #include "referencehost/session/HostSession.h"
+#include "responder/GT_Graph3DResponder.h"
 #include "subnodetree/SGV_Graph3DView.h"
 #include "workbench/FrameBox.h"
 #include "workbench/ImportProgressDialog.h"
+#include "workbench/LogDock.h"
 #include "workbench/Resources.h"
 #include "workbench/SceneListDock.h"
 #include "workbench/ViewDock.h"
@@ -24,6 +26,7 @@
 #include <QStatusBar>
 #include <QToolBar>
 #include <QUndoStack>
+#include <QUndoView>
 
 namespace {
 
@@ -58,6 +61,7 @@ WorkbenchWindow::WorkbenchWindow(HostSession& session)
     , _loader(session)
     , _graphView(new GV_GraphXViewQt(session.context().actionManager(), this, &session.context()))
     , _treeView(new SGV_Graph3DView(session.context().actionManager(), this, &session.context()))
+    , _responder(new GT_Graph3DResponder(session.context().actionManager(), this))
     , _progress(new ImportProgressDialog(_loader, this))
 {
     setWindowTitle(tr("Subnode Workbench"));
@@ -102,6 +106,17 @@ void WorkbenchWindow::createDocks()
     _graphDock->setObjectName(QStringLiteral("GraphDock"));
     _graphDock->setKeptWhenClosed(true);
     addDockWidget(Qt::RightDockWidgetArea, _graphDock);
+    _history = new QDockWidget(tr("History"), this);
+    _history->setObjectName(QStringLiteral("HistoryDock"));
+    auto* steps = new QUndoView(_session.context().commandManager()->history(), _history);
+    steps->setEmptyLabel(tr("As opened"));
+    steps->setAccessibleName(tr("Undo history"));
+    _history->setWidget(steps);
+    addDockWidget(Qt::RightDockWidgetArea, _history);
+    _history->hide();
+    _log = new LogDock(this);
+    addDockWidget(Qt::BottomDockWidgetArea, _log);
+    _log->hide();
     resizeDocks({_sceneList, _graphDock}, {listWidth, initialSize.width() - listWidth},
                 Qt::Horizontal);
     resizeDocks({_sceneList, _treeDock}, {sceneListHeight, initialSize.height() - sceneListHeight},
@@ -139,7 +154,8 @@ void WorkbenchWindow::createMenus()
     another->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_N);
     window->addSeparator();
     window->addActions({_sceneList->toggleViewAction(), _treeDock->toggleViewAction(),
-                        _graphDock->toggleViewAction()});
+                        _graphDock->toggleViewAction(), _history->toggleViewAction(),
+                        _log->toggleViewAction()});
 }
 
 void WorkbenchWindow::createToolBars()

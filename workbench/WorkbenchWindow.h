@@ -6,8 +6,11 @@
 #include <QMainWindow>
 
 class GV_GraphXViewQt;
+class GT_Graph3DResponder;
 class HostSession;
 class ImportProgressDialog;
+class LogDock;
+class QDockWidget;
 class SceneListDock;
 class SGV_Graph3DView;
 class ViewDock;
@@ -27,6 +30,7 @@ public:
     /// The graph view that stays when it is closed.
     GV_GraphXViewQt& graphView() { return *_graphView; }
     SGV_Graph3DView& treeView() { return *_treeView; }
+    LogDock& log() { return *_log; }
     SceneListDock& sceneList() { return *_sceneList; }
 
     /// Opens another graph view beside the one that last had the focus.
@@ -51,6 +55,10 @@ private:
     ViewDock* _graphDock = nullptr;
     ViewDock* _treeDock = nullptr;
     SceneListDock* _sceneList = nullptr;
+    QDockWidget* _history = nullptr;
+    LogDock* _log = nullptr;
+    /// Carries the actions that belong to no view.
+    GT_Graph3DResponder* _responder;
     ImportProgressDialog* _progress;
     int _openedGraphViews = 1;
 };

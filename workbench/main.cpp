@@ -5,6 +5,7 @@
 #include "host/scene/SC_SessionContext.h"
 #include "host/scene/TUScene.h"
 #include "host/scene/TUSceneChangeManager.h"
+#include "referencehost/services/Diagnostics.h"
 #include "referencehost/session/HostSession.h"
 #include "workbench/BatchRun.h"
 #include "workbench/CommandLine.h"
@@ -96,6 +97,9 @@ int run(const CommandLine& commandLine)
     if (commandLine.size)
         window.resize(*commandLine.size);
 
+    // What is asked for on the command line is data, and goes where data goes.
+    if (commandLine.isBatch())
+        Diagnostics::setSink([](const QString& text) { std::fputs(qUtf8Printable(text), stdout); });
     BatchRun batch(commandLine, session, window);
     if (!commandLine.isBatch())
         window.show();
