@@ -64,9 +64,9 @@ QAction* SceneListDock::addListAction(const QString& text, const QKeySequence& k
 void SceneListDock::createActions()
 {
     _rename = addListAction(tr("&Rename"), Qt::Key_F2, &SceneListDock::renameCurrent);
-    _moveUp = addListAction(tr("Move &Up"), Qt::ALT | Qt::Key_Up, &SceneListDock::moveCurrentUp);
+    _moveUp = addListAction(tr("Move &Up"), Qt::CTRL | Qt::Key_Up, &SceneListDock::moveCurrentUp);
     _moveDown =
-        addListAction(tr("Move &Down"), Qt::ALT | Qt::Key_Down, &SceneListDock::moveCurrentDown);
+        addListAction(tr("Move &Down"), Qt::CTRL | Qt::Key_Down, &SceneListDock::moveCurrentDown);
     _delete = addListAction(tr("De&lete"), QKeySequence::Delete, &SceneListDock::deleteSelected);
 }
 

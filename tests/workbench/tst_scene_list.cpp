@@ -140,14 +140,14 @@ private slots:
         addPeg("arm");
         addPeg("leg");
         click(0);
-        key(Qt::Key_Down, Qt::AltModifier);
+        key(Qt::Key_Down, Qt::ControlModifier);
         QCOMPARE(listed(), (QStringList{"arm", "robot", "leg"}));
-        key(Qt::Key_Down, Qt::AltModifier);
-        key(Qt::Key_Down, Qt::AltModifier);
+        key(Qt::Key_Down, Qt::ControlModifier);
+        key(Qt::Key_Down, Qt::ControlModifier);
         QCOMPARE(names(), (QStringList{"arm", "leg", "robot"}));
         QCOMPARE(listed(true), QStringList{"robot"});
         QCOMPARE(context().commandManager()->history()->count(), 2);
-        key(Qt::Key_Up, Qt::AltModifier);
+        key(Qt::Key_Up, Qt::ControlModifier);
         QCOMPARE(listed(), (QStringList{"arm", "robot", "leg"}));
         for (int i = 0; i < 3; ++i)
             entry("Edit", "Undo")->trigger();

@@ -4,15 +4,18 @@
 
 #include "host/actions/AC_Manager.h"
 #include "host/scene/SC_CurrentFrameInterface.h"
+#include "responder/GT_Graph3DResponder.h"
 #include "subnodetree/SGV_Graph3DView.h"
 #include "subnodetree/SGV_GraphModel.h"
 #include "tests/workbench/WindowTest.h"
 #include "workbench/FrameBox.h"
+#include "workbench/LogDock.h"
 #include "workbench/ViewDock.h"
 
 #include <QDomDocument>
 #include <QFile>
 #include <QMouseEvent>
+#include <QPlainTextEdit>
 #include <QPointer>
 #include <QToolBar>
 #include <QToolButton>
@@ -81,10 +84,15 @@ private slots:
         QCOMPARE(textsOf(menu("File")->actions()), (QStringList{"Open...", "-", "Quit"}));
         QCOMPARE(textsOf(menu("Edit")->actions()).mid(2),
                  (QStringList{"-", "Select All", "Deselect All"}));
-        QCOMPARE(textsOf(menu("Subnodes")->actions()),
-                 (QStringList{"Show", "Hide", "Hide All Others"}));
+        QCOMPARE(
+            textsOf(menu("Subnodes")->actions()),
+            (QStringList{"Show", "Hide", "Hide All Others", "-", "Enable", "Disable", "Show Shape",
+                         "Hide Shape", "-", "Select Parent", "Select First Child",
+                         "Select Next Sibling", "Select Previous Sibling", "-",
+                         "Make Properties Available", "Add Kinematic Output", "Dump Scene Graph"}));
         QCOMPARE(textsOf(menu("Window")->actions()),
-                 (QStringList{"New Graph View", "-", "Scene", "Subnode Tree", "Graph View"}));
+                 (QStringList{"New Graph View", "-", "Scene", "Subnode Tree", "Graph View",
+                              "History", "Log"}));
         context().actionManager()->validateActions();
         QCOMPARE(textsOf(menu("View")->actions()),
                  (QStringList{"Zoom In", "Zoom Out", "Actual Size", "Go to Top Left", "Reset View",
@@ -111,7 +119,7 @@ private slots:
         QCOMPARE(button->menu()->objectName(), QStringLiteral("3D_GRAPH_VIEW_MENU"));
     }
 
-    void every_action_has_a_slot_in_its_views()
+    void every_action_has_a_slot_in_its_responders()
     {
         QFile file(QStringLiteral(":/workbench/actions.xml"));
         QVERIFY(file.open(QIODevice::ReadOnly));
@@ -122,17 +130,18 @@ private slots:
         QCOMPARE(context().actionManager()->actions().size(), std::size_t(actions.size()));
         const QMetaObject* graphView = &GV_GraphXViewQt::staticMetaObject;
         const QMetaObject* treeView = &SGV_Graph3DView::staticMetaObject;
-        const QHash<QString, QList<const QMetaObject*>> views{
+        const QHash<QString, QList<const QMetaObject*>> responders{
             {graph().responderIdentity(), {graphView}},
             {_window->treeView().responderIdentity(), {treeView}},
+            {QStringLiteral("graph3dresponder"), {&GT_Graph3DResponder::staticMetaObject}},
             {QStringLiteral("*"), {graphView, treeView}}};
         for (int i = 0; i < actions.size(); ++i) {
             const QDomElement action = actions.at(i).toElement();
-            QVERIFY(views.contains(action.attribute("responder")));
+            QVERIFY(responders.contains(action.attribute("responder")));
             const QByteArray slot = action.attribute("slot").toLatin1();
             const bool takesNumber = action.hasAttribute("argument");
-            for (const QMetaObject* view : views[action.attribute("responder")])
-                QVERIFY2(view->indexOfSlot(slot + (takesNumber ? "(int)" : "()")) >= 0, slot);
+            for (const QMetaObject* responder : responders[action.attribute("responder")])
+                QVERIFY2(responder->indexOfSlot(slot + (takesNumber ? "(int)" : "()")) >= 0, slot);
             QVERIFY(context().actionManager()->action(action.attribute("id")));
         }
     }
@@ -158,6 +167,53 @@ private slots:
         QVERIFY(!isHidden(first));
         key(Qt::Key_Y, Qt::ControlModifier);
         QVERIFY(isHidden(first));
+    }
+
+    void subnodes_are_walked_and_switched_by_keys()
+    {
+        subSelect(QStringLiteral("Torso"));
+        graph().setFocus();
+        const auto subSelected = [this] {
+            AT_ModelNodeKey key;
+            const std::vector<int>& ids = _robot->selInterface()->subSelectedIds();
+            if (!ids.empty())
+                _robot->getNodeKeyForSelId(ids.front(), key);
+            return key.name();
+        };
+        key(Qt::Key_Up, Qt::AltModifier);
+        QCOMPARE(subSelected(), QStringLiteral("Hips"));
+        QVERIFY(!entry("Subnodes", "Select Parent")->isEnabled());
+        // With Shift the child is added, and what was there first stays the current one.
+        key(Qt::Key_Down, Qt::AltModifier | Qt::ShiftModifier);
+        QCOMPARE(_robot->selInterface()->subSelectedIds().size(), std::size_t(2));
+        QCOMPARE(subSelected(), QStringLiteral("Hips"));
+        key(Qt::Key_Down, Qt::AltModifier);
+        QCOMPARE(subSelected(), QStringLiteral("Torso"));
+        key(Qt::Key_D);
+        QVERIFY(isHidden(QStringLiteral("Torso")));
+        QVERIFY(!entry("Subnodes", "Disable")->isEnabled());
+        QCOMPARE(entry("Edit", "Undo Disable Subnode")->isEnabled(), true);
+        key(Qt::Key_Z, Qt::ControlModifier);
+        QVERIFY(!isHidden(QStringLiteral("Torso")));
+        key(Qt::Key_O);
+        QVERIFY(listed().contains(QStringLiteral("Torso-Output")));
+        QVERIFY(_window->treeView()
+                    .model()
+                    ->findIndex(AT_ModelNodeKey(QStringLiteral("Torso")))
+                    .data()
+                    .toString()
+                    .endsWith(u'*'));
+        key(Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(listed(), QStringList{"robot"});
+    }
+
+    void a_dump_comes_up_in_the_log()
+    {
+        QVERIFY(!_window->log().isVisible());
+        entry("Subnodes", "Dump Scene Graph")->trigger();
+        QVERIFY(_window->log().isVisible());
+        QVERIFY(
+            _window->log().text()->toPlainText().contains(QStringLiteral("Hips (KeyTransform) *")));
     }
 
     void no_key_is_taken_twice()
