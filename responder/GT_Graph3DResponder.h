@@ -9,7 +9,7 @@
 
 class AC_Manager;
 class AT_ModelNodeKey;
-class SLB_NodeInterface;
+class MO_Node;
 class SLB_NodeWith3DSubNode;
 class SL_Selection;
 
@@ -78,6 +78,5 @@ protected:
     bool selectedSubnodesShareLocalVisibilityState(bool visible) const;
 
 private:
-    void addSubTransformationFilter(const SLB_NodeInterface& selected,
-                                    const AT_ModelNodeKey& key) const;
+    void addSubTransformationFilter(MO_Node& element, const AT_ModelNodeKey& key) const;
 };

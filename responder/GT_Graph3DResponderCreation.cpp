@@ -25,6 +25,7 @@
 
 #include <QCoreApplication>
 #include <memory>
+#include <vector>
 
 namespace {
 
@@ -116,27 +117,33 @@ void GT_Graph3DResponder::onActionAddSubTransformationFilter()
     const SLB_NodeWith3DSubNode* node = getNodeWithSubNodes(PLUG_Services::getSelection());
     if (!node || !PLUG_Services::getSessionContext())
         return;
+    std::vector<AT_ModelNodeKey> keys;
     for (const int id : SL_SubSelectionUtil::getSubSelectedIds(node)) {
         AT_ModelNodeKey key;
         if (node->subNodeKey(id, key))
-            addSubTransformationFilter(*node, key);
+            keys.push_back(key);
+    }
+    // Each output is told of at once, and a listener may change the selection then, or the scene.
+    const UT_SharedWeakPtr<MO_Node> element(node->selectable());
+    for (const AT_ModelNodeKey& key : keys) {
+        if (element.get())
+            addSubTransformationFilter(*element.get(), key);
     }
 }
 
-void GT_Graph3DResponder::addSubTransformationFilter(const SLB_NodeInterface& selected,
+void GT_Graph3DResponder::addSubTransformationFilter(MO_Node& element,
                                                      const AT_ModelNodeKey& key) const
 {
     std::unique_ptr<MO_Node> node = newNode(STRING_KEY_3D_KINEMATIC_OUTPUT);
-    MO_Node* element = selected.selectable();
-    TUScene* scene = element->scene();
+    TUScene* scene = element.scene();
     if (!node || !scene)
         return;
     node->initialize(scene);
-    MO_GroupModule* group = element->parentGroup() ? element->parentGroup() : scene->rootGroup();
+    MO_GroupModule* group = element.parentGroup() ? element.parentGroup() : scene->rootGroup();
     node->setInstanceName(SC_NameGenerator::uniqueName(key.name() + QStringLiteral("-Output"),
                                                        group, firstNameNumber, nameStep));
-    node->setX(element->x());
-    node->setY(element->y() + distanceBelow);
+    node->setX(element.x());
+    node->setY(element.y() + distanceBelow);
 
     const QString name = QCoreApplication::translate("Scene", "Add \"%1\" node")
                              .arg(node->displayName(), 0, QLatin1Char(' '));
@@ -144,7 +151,7 @@ void GT_Graph3DResponder::addSubTransformationFilter(const SLB_NodeInterface& se
     MO_Node* added = node.get();
     auto command = std::make_unique<CO_AndCommand>();
     command->append(new tu_node::AddSubNodeCmd(group, node.release()));
-    command->append(new tu_node::LinkCmd(added, 0, element, 0, nullptr));
+    command->append(new tu_node::LinkCmd(added, 0, &element, 0, nullptr));
     if (subnodeName)
         command->append(new tu_attr::SetLocalValueCmd<AT_StringAttr>(subnodeName, key.name()));
     PLUG_Services::getSessionContext()->commandManager()->execute(command.release(), name);

@@ -28,7 +28,7 @@ QString freeName(const MO_GroupModule& group, const QString& wanted)
         taken.insert(node->instanceName());
     QString name = wanted;
     for (int number = 2; taken.contains(name); ++number)
-        name = QStringLiteral("%1_%2").arg(wanted).arg(number);
+        name = wanted + u'_' + QString::number(number);
     return name;
 }
 

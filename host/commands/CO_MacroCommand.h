@@ -44,7 +44,8 @@ private:
     bool _executed;
 };
 
-/// Succeeds when all parts do; otherwise those before the one that failed are undone.
+/// Succeeds when all parts that are not empty do; otherwise those before the one that failed are
+/// undone.
 class HOST_EXPORT CO_AndCommand : public CO_MacroCommand
 {
 public:

@@ -10,10 +10,10 @@ struct AT_ModelNodeData
     bool visible = true;
     /// Whether the subnode's own shape is drawn; not inherited.
     bool localVisible = true;
-    /// Whether the subnode's transformation was made available, to be changed and animated.
-    bool hasTransformation = false;
     /// Moves the subnode within its own coordinates, before its own transformation places it.
     osg::Matrix transformation;
+    /// Whether the subnode's transformation was made available, to be changed and animated.
+    bool hasTransformation = false;
 
     friend bool operator==(const AT_ModelNodeData& a, const AT_ModelNodeData& b)
     {

@@ -10,7 +10,7 @@
 class HOST_EXPORT TD_SceneGraphDumper
 {
 public:
-    /// One line a node, indented by its depth: its name, the type of its core, a star when it is a
+    /// One line a node, indented by its depth up to a hundred levels: its name, the type of its core, a star when it is a
     /// subnode, the number of its children, and the matrix of a transformation. A null root writes
     /// that there is nothing.
     void dump(const osg::NodePtr& root) const;

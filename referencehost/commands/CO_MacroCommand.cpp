@@ -58,11 +58,12 @@ CO_AndCommand::~CO_AndCommand() = default;
 
 bool CO_AndCommand::execute()
 {
+    std::erase_if(parts(), [](const auto& part) { return part->empty(); });
     for (std::size_t i = 0; i < parts().size(); ++i) {
         if (!parts()[i]->execute()) {
             undoParts(i);
             return false;
         }
     }
-    return true;
+    return !parts().empty();
 }

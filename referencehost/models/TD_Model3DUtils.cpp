@@ -52,9 +52,9 @@ MO_ElementModule* TD_Model3DUtils::getParentElement(MO_Node* node)
     // A network may run in a ring.
     std::set<const MO_Node*> seen;
     while (node && seen.insert(node).second) {
+        const MO_Port* input = node->inPort(0);
         if (auto* element = dynamic_cast<MO_ElementModule*>(node))
             return element;
-        const MO_Port* input = node->inPort(0);
         const MO_Port* source = input ? input->srcPort() : nullptr;
         node = source ? source->node() : nullptr;
     }

@@ -8,11 +8,14 @@
 #include <OpenSG/OSGTransform.h>
 #include <QCoreApplication>
 #include <QTextStream>
+#include <algorithm>
 #include <vector>
 
 namespace {
 
 constexpr int indentation = 2;
+/// Deeper nodes stand below each other, or a deep chain would be mostly blanks.
+constexpr int deepestIndented = 100;
 constexpr int matrixRows = 4;
 
 void writeMatrix(QTextStream& out, const osg::Matrix& matrix)
@@ -30,8 +33,9 @@ void writeNode(QTextStream& out, const osg::NodePtr& node, int depth)
 {
     const osg::NodeCorePtr core = node->getCore();
     const QString name = TD_nodeName(node);
-    out << QString(depth * indentation, u' ') << (name.isEmpty() ? QStringLiteral("-") : name)
-        << " (" << (core == osg::NullFC ? "no core" : core->getType().getCName()) << ')';
+    out << QString(std::min(depth, deepestIndented) * indentation, u' ')
+        << (name.isEmpty() ? QStringLiteral("-") : name) << " ("
+        << (core == osg::NullFC ? "no core" : core->getType().getCName()) << ')';
     if (TD_SceneGraphUtil::isKeySubnode(node))
         out << " *";
     out << ' ' << node->getNChildren();

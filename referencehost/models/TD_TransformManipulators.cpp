@@ -8,34 +8,29 @@
 #include "referencehost/models/SetSubnodeSettings.h"
 #include "referencehost/scene/WholeFrame.h"
 
+#include <utility>
+
 namespace {
 
 /// Records a command that changes the records of the sub-selected subnodes, if that changes any.
-template <class Change>
 void recordChange(const SLB_ManipContext& context, SLB_NodeInterface* selected,
-                  const Change& change)
+                  const SetSubnodeSettings::Change& change)
 {
     const auto* node = dynamic_cast<const SLB_NodeWith3DSubNode*>(selected);
     auto* element = node ? dynamic_cast<MO_ElementModule*>(node->selectable()) : nullptr;
     const std::optional<int> frame = wholeFrame(context.frame());
     if (!element || !context.macro() || !frame)
         return;
-    const AT_ModelData* held = element->seqMeta(*frame);
-    AT_ModelData changed = held ? *held : AT_ModelData();
+    std::vector<AT_ModelNodeKey> keys;
     for (const int id : node->subSelectedIds()) {
         AT_ModelNodeKey key;
-        if (!node->subNodeKey(id, key))
-            continue;
-        const AT_ModelNodeData* existing = changed.nodeData(key);
-        AT_ModelNodeData record = existing ? *existing : AT_ModelNodeData();
-        const AT_ModelNodeData before = record;
-        change(record);
-        if (!(record == before))
-            changed.setNodeData(key, record);
+        if (node->subNodeKey(id, key))
+            keys.push_back(key);
     }
-    if (changed == (held ? *held : AT_ModelData()))
+    const AT_ModelData* held = element->seqMeta(*frame);
+    if (SetSubnodeSettings::changed(held, keys, change) == (held ? *held : AT_ModelData()))
         return;
-    context.macro()->append(new SetSubnodeSettings(element, *frame, changed));
+    context.macro()->append(new SetSubnodeSettings(element, *frame, std::move(keys), change));
 }
 
 } // namespace

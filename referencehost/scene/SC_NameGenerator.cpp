@@ -16,6 +16,6 @@ QString SC_NameGenerator::uniqueName(const QString& wanted, const MO_GroupModule
     }
     QString name = wanted;
     for (int number = firstNumber; taken.contains(name); number += std::max(1, step))
-        name = QStringLiteral("%1_%2").arg(wanted).arg(number);
+        name = wanted + u'_' + QString::number(number);
     return name;
 }

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ChangeLog.h"
+#include "ElementSettings.h"
 #include "host/commands/CO_CommandManager.h"
 #include "host/models/AT_ModelCmds.h"
-#include "host/models/AT_ModelData.h"
-#include "host/scene/MO_ElementModule.h"
 #include "host/scene/MO_GroupModule.h"
 #include "host/scene/MO_PegModule.h"
 #include "host/scene/TUSceneChangeManager.h"
@@ -34,21 +33,6 @@ AT_ModelNodeData shapeHidden()
     data.localVisible = false;
     data.transformation.setTranslate(1.0f, 2.0f, 3.0f);
     return data;
-}
-
-/// All settings of an element by the frame that sets them.
-using Settings = std::map<int, AT_ModelData>;
-
-Settings settingsOf(const MO_ElementModule& element)
-{
-    Settings settings;
-    for (int frame = 1; frame <= 20; ++frame) {
-        const AT_ModelData* data = element.seqMeta(frame);
-        int setAt = 0;
-        if (data && element.frameOfSeqMeta(data, setAt))
-            settings[setAt] = *data;
-    }
-    return settings;
 }
 
 } // namespace
