@@ -6,6 +6,8 @@
 #include "host/scene/MO_TypeKeys.h"
 #include "tests/responder/ResponderTest.h"
 
+#include <utility>
+
 namespace {
 
 /// An output that takes further attributes.
@@ -104,24 +106,29 @@ private slots:
         }
     }
 
-    void a_listener_may_change_the_selection_or_the_scene_between_two_outputs()
+    void a_listener_may_change_the_scene_between_two_outputs_data()
     {
-        for (const bool deletes : {false, true}) {
-            init();
-            MO_ElementModule& element = addPlaced();
-            subSelectOnly(element, {"leg", "arm"});
-            const QObject listener;
-            connect(_stage->context().changeManager(), &TUSceneChangeManager::networkChanged,
-                    &listener, [&] {
-                        _stage->context().selection()->clear();
-                        if (deletes && element.parentGroup())
-                            element.parentGroup()->takeNode(&element).reset();
-                    });
-            run(filterAction);
-            QCOMPARE(nodes().size(), deletes ? 1 : 2);
-            cleanup();
-        }
-        init();
+        QTest::addColumn<bool>("deletes");
+        QTest::addColumn<int>("outputs");
+        QTest::newRow("selection") << false << 2;
+        QTest::newRow("element") << true << 1;
+    }
+    void a_listener_may_change_the_scene_between_two_outputs()
+    {
+        QFETCH(const bool, deletes);
+        QFETCH(const int, outputs);
+        MO_ElementModule& element = addPlaced();
+        subSelectOnly(element, {"leg", "arm"});
+        bool deleted = false;
+        const QObject listener;
+        connect(_stage->context().changeManager(), &TUSceneChangeManager::networkChanged, &listener,
+                [&] {
+                    _stage->context().selection()->clear();
+                    if (deletes && !std::exchange(deleted, true))
+                        element.parentGroup()->takeNode(&element).reset();
+                });
+        run(filterAction);
+        QCOMPARE(nodes().size(), outputs);
     }
 
     void names_of_further_outputs_are_counted()
