@@ -2,49 +2,14 @@
 
 #include "graphview/GV_GraphUiInfo.h"
 #include "graphview/GV_GraphXViewCtrl.h"
-#include "tests/graphview/CanvasTest.h"
-
-namespace {
-
-/// On the canvas at rest: nothing, and the header of the first model.
-constexpr QPoint empty(450, 300);
-constexpr QPoint header(100, 14);
-
-} // namespace
+#include "tests/graphview/MarqueeTest.h"
 
 /// The marquee, and the canvas that follows it when it is dragged out of the view.
-class tst_GV_GraphXViewQtMarquee : public CanvasTest
+class tst_GV_GraphXViewQtMarquee : public MarqueeTest
 {
     Q_OBJECT
 
-private:
-    using View = GV_GraphXViewQt;
-
-    QGraphicsRectItem* marquee() { return marqueeItem(view()); }
-    bool isMarqueeShownAt(const QRectF& rect)
-    {
-        return marquee()->isVisible() && marquee()->rect() == rect;
-    }
-    bool isAtRest() { return factor() == 1.0 && pan() == Math::Point2d{2, 2}; }
-    /// Drags a marquee to the point, and once more so that the canvas has moved by one step.
-    void dragOutside(const QPoint& to)
-    {
-        press(empty);
-        moveTo(to);
-        moveTo(to);
-    }
-
 private slots:
-    void init()
-    {
-        StageTest::init();
-        QVERIFY(definePanKey());
-        _stage->addElement(QStringLiteral("robot"));
-        QVERIFY(show());
-        QVERIFY(marquee());
-        QVERIFY(!marquee()->isVisible());
-    }
-
     void a_press_on_nothing_starts_an_empty_marquee()
     {
         press(empty);
