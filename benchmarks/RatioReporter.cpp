@@ -44,3 +44,21 @@ void RatioReporter::Finalize()
                     ratio > aim.atMost ? "  missed" : "");
     }
 }
+
+RatioReporter::Aim ratioAim(const std::string& measured, const std::string& floor, double atMost)
+{
+    return {measured + " to " + floor,
+            measured,
+            {floor},
+            [](const std::vector<double>& times) { return times.at(0); },
+            atMost};
+}
+
+RatioReporter::Aim timeAim(const std::string& measured, const std::string& what, double nanoseconds)
+{
+    return {measured + " to " + what,
+            measured,
+            {},
+            [nanoseconds](const std::vector<double>&) { return nanoseconds; },
+            1.0};
+}

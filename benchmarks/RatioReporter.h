@@ -36,3 +36,10 @@ private:
     std::vector<Aim> _aims;
     Times _times;
 };
+
+/// The aim that a measurement is at most so many times another one.
+RatioReporter::Aim ratioAim(const std::string& measured, const std::string& floor, double atMost);
+
+/// The aim that a measurement takes at most a time, which has a name for people.
+RatioReporter::Aim timeAim(const std::string& measured, const std::string& what,
+                           double nanoseconds);

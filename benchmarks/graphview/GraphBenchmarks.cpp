@@ -40,12 +40,3 @@ void registerFor(const std::string& what, benchmark::BigO complexity,
         registered->Complexity(complexity);
     }
 }
-
-RatioReporter::Aim ratioAim(const std::string& measured, const std::string& floor, double atMost)
-{
-    return {measured + " to " + floor,
-            measured,
-            {floor},
-            [](const std::vector<double>& times) { return times.at(0); },
-            atMost};
-}

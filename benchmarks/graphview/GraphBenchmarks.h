@@ -33,6 +33,3 @@ std::vector<std::pair<std::string, Shape>> shapes();
 /// Registers "what/shape" for every shape and every size that the shape is measured at.
 void registerFor(const std::string& what, benchmark::BigO complexity,
                  const std::function<void(benchmark::State&, Shape)>& measure);
-
-/// The aim that a measurement at most so many times another one.
-RatioReporter::Aim ratioAim(const std::string& measured, const std::string& floor, double atMost);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-#include "benchmarks/RatioReporter.h"
+#include "benchmarks/BenchmarkProgram.h"
 #include "benchmarks/SampleGraph.h"
 #include "host/actions/AC_ActionInfo.h"
 #include "host/commands/CO_CommandManager.h"
@@ -16,10 +16,7 @@
 #include "referencehost/session/HostSession.h"
 #include "responder/GT_Graph3DResponder.h"
 
-#include <OpenSG/OSGBaseFunctions.h>
-#include <QApplication>
 #include <QMetaMethod>
-#include <QStandardPaths>
 #include <QUndoStack>
 #include <limits>
 #include <memory>
@@ -151,15 +148,6 @@ void registerAll()
         [](State& state) { validateAll(state, Shape::Chain); });
 }
 
-RatioReporter::Aim timeAim(const std::string& measured, const std::string& what, double nanoseconds)
-{
-    return {measured + " to " + what,
-            measured,
-            {},
-            [nanoseconds](const std::vector<double>&) { return nanoseconds; },
-            1.0};
-}
-
 std::vector<RatioReporter::Aim> aims()
 {
     constexpr double second = 1e9;
@@ -175,17 +163,5 @@ std::vector<RatioReporter::Aim> aims()
 
 int main(int argc, char** argv)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    // The user's own preferences must not decide what is measured.
-    QStandardPaths::setTestModeEnabled(true);
-    QApplication application(argc, argv);
-    osg::osgInit(argc, argv);
-    registerAll();
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv))
-        return 2;
-    RatioReporter reporter(aims());
-    benchmark::RunSpecifiedBenchmarks(&reporter);
-    benchmark::Shutdown();
-    return 0;
+    return runBenchmarks(argc, argv, registerAll, aims());
 }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-#include "benchmarks/RatioReporter.h"
+#include "benchmarks/BenchmarkProgram.h"
 #include "benchmarks/SampleGraph.h"
 #include "benchmarks/subnodetree/ShownTree.h"
 #include "benchmarks/subnodetree/StandardTree.h"
@@ -15,23 +15,16 @@
 #include "subnodetree/SGV_GraphModel.h"
 #include "subnodetree/SubNodeFilterProxyModel.h"
 
-#include <OpenSG/OSGBaseFunctions.h>
 #include <QApplication>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QMouseEvent>
-#include <QStandardPaths>
 #include <QTreeView>
 #include <malloc.h>
 
 namespace {
 
 using benchmark::State;
-
-/// Off screen, Qt remarks on everything that a platform without a screen cannot do.
-void dropRemarks(QtMsgType, const QMessageLogContext&, const QString&)
-{
-}
 
 /// Keeps some 1 % of the rows of the samples, some 25 %, and all of them.
 const QString keepsOne = QStringLiteral("12");
@@ -259,15 +252,6 @@ void registerAll()
     registerFor("click_both", benchmark::o1, all, clickBoth);
 }
 
-RatioReporter::Aim ratioAim(const std::string& measured, const std::string& floor, double atMost)
-{
-    return {measured + " to " + floor,
-            measured,
-            {floor},
-            [](const std::vector<double>& times) { return times.at(0); },
-            atMost};
-}
-
 std::vector<RatioReporter::Aim> aims()
 {
     std::vector<RatioReporter::Aim> all;
@@ -278,11 +262,7 @@ std::vector<RatioReporter::Aim> aims()
                                "filter_key_standard" + name + "/rig/1000", 0.02));
     }
     constexpr double tenthOfASecond = 1e8;
-    all.push_back({"sync_1000/rig/100000 to 100 ms",
-                   "sync_1000/rig/100000",
-                   {},
-                   [](const std::vector<double>&) { return tenthOfASecond; },
-                   1.0});
+    all.push_back(timeAim("sync_1000/rig/100000", "100 ms", tenthOfASecond));
     all.push_back(ratioAim("click_both/rig/100000", "click_both/rig/1000", 1.5));
     return all;
 }
@@ -291,19 +271,9 @@ std::vector<RatioReporter::Aim> aims()
 
 int main(int argc, char** argv)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    // The user's own preferences must not decide what is measured.
-    QStandardPaths::setTestModeEnabled(true);
-    qInstallMessageHandler(dropRemarks);
-    QApplication application(argc, argv);
-    osg::osgInit(argc, argv);
-    PR_Preference::instance()->setBoolValue(QStringLiteral("GV_EXTENDED_DISPLAY"), false);
-    registerAll();
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv))
-        return 2;
-    RatioReporter reporter(aims());
-    benchmark::RunSpecifiedBenchmarks(&reporter);
-    benchmark::Shutdown();
-    return 0;
+    const auto registerThem = [] {
+        PR_Preference::instance()->setBoolValue(QStringLiteral("GV_EXTENDED_DISPLAY"), false);
+        registerAll();
+    };
+    return runBenchmarks(argc, argv, registerThem, aims());
 }
