@@ -2,6 +2,7 @@
 
 #include "graphview/GV_GraphXViewQt.h"
 
+#include "graphview/GV_DefaultBackground.h"
 #include "graphview/GV_FixedCanvas.h"
 #include "graphview/GV_GraphUiInfo.h"
 #include "graphview/GV_GraphXMainItem.h"
@@ -15,24 +16,14 @@
 #include <QGraphicsRectItem>
 #include <QGraphicsScene>
 
-namespace {
-
-constexpr unsigned int backgroundRgba = 0xff787878;
-
-/// The rest position of the pan: the model's origin, two pixels inside the corner.
-constexpr Math::Vector2d restPan{2.0, 2.0};
-
-} // namespace
-
 QColor GV_GraphXViewQt::__viewBackgroundQColor = QColor(140, 165, 230, 255);
 
 GV_GraphXViewQt::GV_GraphXViewQt(AC_Manager* manager, QWidget* parent, SC_SessionContext* session)
     : TUCanvasViewLayoutView(manager, QStringLiteral("graphView"), parent,
                              QStringLiteral("GV_GraphView"), Qt::WindowFlags())
     , _sessionContext(session)
-    , _pan(restPan)
-    , _referencePan(restPan)
 {
+    resetPan();
 }
 
 GV_GraphXViewQt::~GV_GraphXViewQt()
@@ -119,7 +110,7 @@ bool GV_GraphXViewQt::loadPreferences()
 {
     bool changed = false;
     const QColor background = QColor::fromRgba(PR_Preference::instance()->getRgbaValue(
-        QStringLiteral("ST_3DNODEVIEW_BACKGROUND_COLOR"), backgroundRgba));
+        QStringLiteral("ST_3DNODEVIEW_BACKGROUND_COLOR"), GV_defaultBackground));
     if (background != __viewBackgroundQColor) {
         __viewBackgroundQColor = background;
         changed = true;

@@ -26,6 +26,7 @@ constexpr int largestLevel = 128;
 /// Levels by which one step of the wheel or of an action zooms.
 constexpr int levelsPerStep = 4;
 
+/// The rest position of the pan: the model's origin, two pixels inside the corner.
 constexpr Math::Vector2d restPan{2.0, 2.0};
 
 /// How far the overview can take the visible area, in pixels. The canvas can do no more at the

@@ -49,6 +49,7 @@ GV_OverviewItem::Look GV_OverviewItem::lookAt(const Place& place) const
     look.editable = GV_UiNode::editableRevision();
     look.appearance = GV_AppearanceRevision::current();
     look.graphs = uiInfo->graphsRevision();
+    look.openElement = uiInfo->visibleGraphModelNode();
     if (showsBoxColors(place.transform, place.pixelRatio)) {
         look.selection = uiInfo->selectionRevision();
         look.settings = controller()->settingsRevision();

@@ -36,6 +36,8 @@ private:
         std::uint64_t editable = 0;
         std::uint64_t appearance = 0;
         std::uint64_t graphs = 0;
+        /// Null once the open element is gone, which may be before anybody tells of it.
+        const MO_ElementModule* openElement = nullptr;
         /// Left at 0 where the colours of the tree's boxes cannot be seen.
         std::uint64_t selection = 0;
         std::uint64_t settings = 0;

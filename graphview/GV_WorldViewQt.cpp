@@ -2,6 +2,7 @@
 
 #include "graphview/GV_WorldViewQt.h"
 
+#include "graphview/GV_DefaultBackground.h"
 #include "graphview/GV_GraphXNavigatorQt.h"
 #include "graphview/GV_GraphXViewQt.h"
 #include "graphview/GV_ResizeCtrlQt.h"
@@ -12,8 +13,6 @@
 #include <vector>
 
 namespace {
-
-constexpr unsigned int backgroundRgba = 0xff787878;
 
 /// Between the frame and the edges of the graph view, in pixels.
 constexpr int cornerMargin = 3;
@@ -132,7 +131,7 @@ void GV_WorldViewQt::moveToCorner(int corner)
 bool GV_WorldViewQt::refreshBackground(bool force)
 {
     const QColor background = QColor::fromRgba(PR_Preference::instance()->getRgbaValue(
-        QStringLiteral("ST_3DNODEVIEW_BACKGROUND_COLOR"), backgroundRgba));
+        QStringLiteral("ST_3DNODEVIEW_BACKGROUND_COLOR"), GV_defaultBackground));
     const bool changed = background != __backgroundQColor;
     // The colour is shared, so another frame may have been the one to notice that it changed.
     if (!changed && !force && _navigator->backgroundBrush() == QBrush(background))

@@ -9,6 +9,8 @@
 #include "host/scene/MO_ElementModule.h"
 #include "host/scene/SC_CurrentFrameInterface.h"
 #include "host/scene/SC_SessionContext.h"
+#include "host/scene/TUScene.h"
+#include "host/selection/SLB_ManipContext.h"
 #include "host/selection/SLB_NodeWith3DSubNode.h"
 #include "host/selection/SL_SelectionUtil.h"
 #include "host/selection/SL_SubSelectionUtil.h"
@@ -41,4 +43,10 @@ osg::NodePtr GT_CurrentSubnode::sceneGraphNode()
     element->accept(getter);
     const CEL_SharedPtr<TD_CelVq3d> cel = getter.celPtr();
     return cel ? TD_FindKeyNode()(cel->rootNodePtr(), key) : osg::NodePtr();
+}
+
+SLB_ManipContext GT_CurrentSubnode::manipContext(SC_SessionContext* session,
+                                                 const SLB_NodeInterface& node)
+{
+    return SLB_ManipContext(session, node.selectable()->scene(), eAtCurrentFrame, 0.0);
 }

@@ -3,6 +3,8 @@
 
 #include <OpenSG/OSGNode.h>
 
+class SC_SessionContext;
+class SLB_ManipContext;
 class SLB_NodeInterface;
 class SLB_NodeWith3DSubNode;
 
@@ -16,5 +18,7 @@ SLB_NodeWith3DSubNode* selectedWithSubnodes();
 /// The scene-graph node of the subnode that was sub-selected first, in the model that is shown now;
 /// null when there is none.
 osg::NodePtr sceneGraphNode();
+/// How the node's manipulators are to change it: its settings at the current frame.
+SLB_ManipContext manipContext(SC_SessionContext* session, const SLB_NodeInterface& node);
 
 } // namespace GT_CurrentSubnode

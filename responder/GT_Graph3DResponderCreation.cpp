@@ -48,11 +48,6 @@ std::unique_ptr<TD_NodeWith3DSubNodeManipulator> subnodeManipulatorFor(SLB_NodeI
     return std::unique_ptr<TD_NodeWith3DSubNodeManipulator>(forSubnodes);
 }
 
-SLB_ManipContext contextFor(SC_SessionContext* session, const SLB_NodeInterface& selected)
-{
-    return SLB_ManipContext(session, selected.selectable()->scene(), eAtCurrentFrame, 0.0);
-}
-
 /// The attribute that says which subnode the node follows; null when it has none.
 AT_StringAttr* subnodeNameOf(const MO_Node& node)
 {
@@ -85,7 +80,7 @@ void GT_Graph3DResponder::onActionCreateSubNodeTransformation()
     SC_SessionContext* session = PLUG_Services::getSessionContext();
     if (!manipulator || !session)
         return;
-    SLB_ManipContext context = contextFor(session, *selected);
+    SLB_ManipContext context = GT_CurrentSubnode::manipContext(session, *selected);
     auto macro = std::make_unique<CO_OrCommand>(false);
     context.attachMacro(macro.get());
     manipulator->createSubNodeTransformations(context, selected);
@@ -102,7 +97,7 @@ void GT_Graph3DResponder::onActionCreateSubNodeTransformationValidate(AC_ActionI
     SC_SessionContext* session = PLUG_Services::getSessionContext();
     if (!node || !session || !subnodeManipulatorFor(node))
         return;
-    const SLB_ManipContext context = contextFor(session, *node);
+    const SLB_ManipContext context = GT_CurrentSubnode::manipContext(session, *node);
     for (const int id : SL_SubSelectionUtil::getSubSelectedIds(node)) {
         std::uint32_t state = 0;
         if (node->subNodeTransformation(context.frame(), id, state) && state == 0) {

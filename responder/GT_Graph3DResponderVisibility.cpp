@@ -22,11 +22,6 @@ using Manipulator = TD_Module3dTransformManipulator;
 using SetFlag = void (Manipulator::*)(const SLB_ManipContext&, SLB_NodeInterface*, bool);
 using StateQuery = bool (SLB_NodeWith3DSubNode::*)(double, int, std::uint32_t&) const;
 
-SLB_ManipContext contextFor(SC_SessionContext* session, const SLB_NodeInterface& selected)
-{
-    return SLB_ManipContext(session, selected.selectable()->scene(), eAtCurrentFrame, 0.0);
-}
-
 /// Sets a flag of the sub-selected subnodes by a macro of its own.
 void setFlag(SLB_ManipContext& context, Manipulator& manipulator, SLB_NodeInterface* selected,
              SetFlag flag, bool value, const QString& name)
@@ -51,7 +46,7 @@ void setFlags(SetFlag flag, SetFlag otherFlag, bool value, const QString& name)
     SC_SessionContext* session = PLUG_Services::getSessionContext();
     if (!manipulator || !session)
         return;
-    SLB_ManipContext context = contextFor(session, *selected);
+    SLB_ManipContext context = GT_CurrentSubnode::manipContext(session, *selected);
     const CO_CommandAccumScope step(session->commandManager(), name);
     setFlag(context, *manipulator, selected, flag, value, name);
     if (!value)
@@ -69,7 +64,7 @@ bool anyDiffers(StateQuery query, bool value)
     SC_SessionContext* session = PLUG_Services::getSessionContext();
     if (!manipulator || !session)
         return false;
-    const SLB_ManipContext context = contextFor(session, *node);
+    const SLB_ManipContext context = GT_CurrentSubnode::manipContext(session, *node);
     const std::uint32_t wanted = value ? 0 : 1;
     for (const int id : SL_SubSelectionUtil::getSubSelectedIds(node)) {
         std::uint32_t state = 0;

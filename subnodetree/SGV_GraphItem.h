@@ -40,7 +40,8 @@ public:
     /// Null when there is no child in that row.
     SGV_GraphItem* child(int row) const;
     /// The item's position among its parent's children; 0 for a root, -1 when the parent does not
-    /// have it. Takes constant time.
+    /// have it. Takes constant time, or, after
+    /// earlier siblings were removed, time in proportion to their number.
     int row() const;
     /// Takes ownership of the child and appends it.
     void append(SGV_GraphItem* child);

@@ -12,6 +12,7 @@
 #include <QMenu>
 #include <QToolBar>
 #include <algorithm>
+#include <iterator>
 
 namespace {
 
@@ -217,7 +218,9 @@ bool AC_Manager::route(const QString& identity, AC_ActionInfo& info) const
 bool AC_Manager::routeToAny(AC_ActionInfo& info) const
 {
     std::vector<AC_Responder*> candidates = d->byFocus;
-    candidates.insert(candidates.end(), d->responders.begin(), d->responders.end());
+    std::ranges::copy_if(d->responders, std::back_inserter(candidates), [this](auto* responder) {
+        return std::ranges::find(d->byFocus, responder) == d->byFocus.end();
+    });
     return std::ranges::any_of(candidates, [&info](AC_Responder* responder) {
         return responder->perform(&info) != AC_NotHandled;
     });
