@@ -31,6 +31,17 @@ public:
     void exposeModel(int firstFrame, int lastFrame, const CEL_SharedPtr<TD_CelVq3d>& model);
     /// The model at the frame; null when it shows none.
     CEL_SharedPtr<TD_CelVq3d> modelAt(double frame) const;
+    /// A model, never null, on the frames from the first to the last, both included.
+    struct Exposure
+    {
+        int firstFrame;
+        int lastFrame;
+        CEL_SharedPtr<TD_CelVq3d> model;
+
+        friend bool operator==(const Exposure&, const Exposure&) = default;
+    };
+    /// What the element shows, by frame; no two overlap.
+    std::vector<Exposure> exposures() const;
 
     /// False, with the result untouched, when no model of the element has this key or id.
     bool getSelIdForNodeKey(const AT_ModelNodeKey& key, int& id) const;
@@ -41,6 +52,8 @@ public:
     AT_ModelData* seqMeta(double frame) const;
     /// The frame at which these settings were set; false when they are not this element's.
     bool frameOfSeqMeta(const AT_ModelData* data, int& frame) const;
+    /// The frames at which settings were set, in order.
+    std::vector<int> seqMetaFrames() const;
     /// Sets the settings from the frame on and returns what was set at that very frame.
     /// Null removes what was set at that frame.
     std::unique_ptr<AT_ModelData> setSeqMeta(int frame, std::unique_ptr<AT_ModelData> data);

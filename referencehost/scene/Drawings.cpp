@@ -42,3 +42,11 @@ Drawings::Model Drawings::at(int frame) const
     const Range& range = std::prev(after)->second;
     return frame <= range.last ? range.model : nullptr;
 }
+
+std::vector<MO_ElementModule::Exposure> Drawings::exposures() const
+{
+    std::vector<MO_ElementModule::Exposure> all;
+    for (const auto& [first, range] : _ranges)
+        all.push_back({first, range.last, range.model});
+    return all;
+}

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/models/CEL_SharedPtr.h"
+#include "host/scene/MO_ElementModule.h"
 
 #include <map>
 
@@ -20,6 +20,7 @@ public:
 
     /// Null when the frame shows nothing.
     Model at(int frame) const;
+    std::vector<MO_ElementModule::Exposure> exposures() const;
 
 private:
     struct Range

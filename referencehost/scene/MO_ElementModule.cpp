@@ -79,6 +79,11 @@ CEL_SharedPtr<TD_CelVq3d> MO_ElementModule::modelAt(double frame) const
     return whole ? e->drawings.at(*whole) : nullptr;
 }
 
+std::vector<MO_ElementModule::Exposure> MO_ElementModule::exposures() const
+{
+    return e->drawings.exposures();
+}
+
 bool MO_ElementModule::getSelIdForNodeKey(const AT_ModelNodeKey& key, int& id) const
 {
     return e->subnodeIds.idOf(key, id);
@@ -106,6 +111,14 @@ bool MO_ElementModule::frameOfSeqMeta(const AT_ModelData* data, int& frame) cons
         return false;
     frame = it->first;
     return true;
+}
+
+std::vector<int> MO_ElementModule::seqMetaFrames() const
+{
+    std::vector<int> frames;
+    for (const auto& [frame, data] : e->settings)
+        frames.push_back(frame);
+    return frames;
 }
 
 std::unique_ptr<AT_ModelData> MO_ElementModule::setSeqMeta(int frame,
