@@ -11,13 +11,13 @@
 #include "referencehost/session/HostSession.h"
 #include "responder/GT_Graph3DResponder.h"
 #include "subnodetree/SGV_Graph3DView.h"
-#include "workbench/FrameBox.h"
-#include "workbench/ImportProgressDialog.h"
-#include "workbench/LogDock.h"
-#include "workbench/Resources.h"
-#include "workbench/SceneListDock.h"
-#include "workbench/ViewDock.h"
+#include "workbench/docks/LogDock.h"
+#include "workbench/docks/SceneListDock.h"
+#include "workbench/docks/ViewDock.h"
+#include "workbench/files/ImportProgressDialog.h"
 #include "workbench/import/ModelImporter.h"
+#include "workbench/resources/Resources.h"
+#include "workbench/timeline/FrameBox.h"
 
 #include <QCloseEvent>
 #include <QFile>

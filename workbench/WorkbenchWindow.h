@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "workbench/ModelLoader.h"
+#include "workbench/files/ModelLoader.h"
 
 #include <QMainWindow>
 

@@ -7,11 +7,11 @@
 #include "host/scene/TUSceneChangeManager.h"
 #include "referencehost/services/Diagnostics.h"
 #include "referencehost/session/HostSession.h"
-#include "workbench/BatchRun.h"
-#include "workbench/CommandLine.h"
-#include "workbench/Theme.h"
 #include "workbench/WorkbenchWindow.h"
+#include "workbench/batch/BatchRun.h"
+#include "workbench/batch/CommandLine.h"
 #include "workbench/import/ModelImporter.h"
+#include "workbench/preferences/Theme.h"
 
 #include <OpenSG/OSGBaseFunctions.h>
 #include <QApplication>

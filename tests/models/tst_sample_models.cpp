@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ModelImporter.h"
+#include "workbench/import/ModelImporter.h"
 
 #include <OpenSG/OSGBaseFunctions.h>
 #include <OpenSG/OSGGeometry.h>

@@ -15,8 +15,8 @@
 #include "host/selection/SLB_NodeInterface.h"
 #include "host/selection/SL_Selection.h"
 #include "referencehost/session/HostSession.h"
-#include "workbench/SceneListDock.h"
 #include "workbench/WorkbenchWindow.h"
+#include "workbench/docks/SceneListDock.h"
 
 #include <OpenSG/OSGBaseFunctions.h>
 #include <QAction>

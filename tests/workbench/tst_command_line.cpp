@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-#include "workbench/CommandLine.h"
+#include "workbench/batch/CommandLine.h"
 
 #include <QTest>
 

@@ -8,9 +8,9 @@
 #include "host/scene/TUScene.h"
 #include "host/selection/SL_Selection.h"
 #include "referencehost/session/HostSession.h"
-#include "workbench/ImportProgressDialog.h"
-#include "workbench/ModelLoader.h"
 #include "workbench/WorkbenchWindow.h"
+#include "workbench/files/ImportProgressDialog.h"
+#include "workbench/files/ModelLoader.h"
 
 #include <OpenSG/OSGBaseFunctions.h>
 #include <QApplication>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-#include "workbench/SceneListDock.h"
+#include "workbench/docks/SceneListDock.h"
 
 #include "host/commands/CO_CommandManager.h"
 #include "tests/workbench/WindowTest.h"

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-#include "workbench/SubnodeDump.h"
+#include "workbench/batch/SubnodeDump.h"
 
 #include <OpenSG/OSGBaseFunctions.h>
 #include <OpenSG/OSGGeometry.h>

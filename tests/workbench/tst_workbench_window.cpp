@@ -8,9 +8,9 @@
 #include "subnodetree/SGV_Graph3DView.h"
 #include "subnodetree/SGV_GraphModel.h"
 #include "tests/workbench/WindowTest.h"
-#include "workbench/FrameBox.h"
-#include "workbench/LogDock.h"
-#include "workbench/ViewDock.h"
+#include "workbench/docks/LogDock.h"
+#include "workbench/docks/ViewDock.h"
+#include "workbench/timeline/FrameBox.h"
 
 #include <QDomDocument>
 #include <QFile>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "AssimpReader.h"
+#include "workbench/import/AssimpReader.h"
 
-#include "ImportFileSystem.h"
-#include "ImportProgressHandler.h"
+#include "workbench/import/ImportFileSystem.h"
+#include "workbench/import/ImportProgressHandler.h"
 
 #include <assimp/Importer.hpp>
 #include <assimp/config.h>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "FormatHabits.h"
+#include "workbench/import/FormatHabits.h"
 
 #include <QString>
 #include <memory>

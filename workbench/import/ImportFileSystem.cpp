@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ImportFileSystem.h"
+#include "workbench/import/ImportFileSystem.h"
 
 #include <cstring>
 #include <filesystem>

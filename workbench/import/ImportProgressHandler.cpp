@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "ImportProgressHandler.h"
+#include "workbench/import/ImportProgressHandler.h"
 
-#include "ImportProgress.h"
+#include "workbench/modelstream/ImportProgress.h"
 
 #include <algorithm>
 #include <stdexcept>

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "ModelImporter.h"
+#include "workbench/import/ModelImporter.h"
 
-#include "AssimpReader.h"
-#include "DeepStackThread.h"
-#include "ImportProgress.h"
-#include "OneLine.h"
-#include "SceneConverter.h"
+#include "workbench/import/AssimpReader.h"
+#include "workbench/import/SceneConverter.h"
+#include "workbench/modelstream/DeepStackThread.h"
+#include "workbench/modelstream/ImportProgress.h"
+#include "workbench/modelstream/OneLine.h"
 
 #include <OpenSG/OSGNode.h>
 #include <QCoreApplication>

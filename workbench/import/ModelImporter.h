@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "ImportResult.h"
+#include "workbench/modelstream/ImportResult.h"
 
 #include <QList>
 

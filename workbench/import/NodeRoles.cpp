@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "NodeRoles.h"
+#include "workbench/import/NodeRoles.h"
 
-#include "AssimpReader.h"
+#include "workbench/import/AssimpReader.h"
 
 #include <assimp/scene.h>
 #include <cmath>

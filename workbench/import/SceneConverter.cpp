@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "SceneConverter.h"
+#include "workbench/import/SceneConverter.h"
 
-#include "AssimpReader.h"
-#include "GeometryBuilder.h"
-#include "ImportProgress.h"
+#include "workbench/import/AssimpReader.h"
+#include "workbench/import/GeometryBuilder.h"
+#include "workbench/modelstream/ImportProgress.h"
 
 #include <OpenSG/OSGGroup.h>
 #include <OpenSG/OSGKeyTransform.h>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "ImportResult.h"
-#include "NodeRoles.h"
-#include "UniqueNames.h"
+#include "workbench/import/NodeRoles.h"
+#include "workbench/import/UniqueNames.h"
+#include "workbench/modelstream/ImportResult.h"
 
 #include <OpenSG/OSGGeometry.h>
 #include <OpenSG/OSGNode.h>

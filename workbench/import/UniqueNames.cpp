@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "UniqueNames.h"
+#include "workbench/import/UniqueNames.h"
 
 void UniqueNames::announce(const std::string& name)
 {

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "ImportProgress.h"
-#include "ModelImporter.h"
+#include "workbench/import/ModelImporter.h"
+#include "workbench/modelstream/ImportProgress.h"
 
 #include <QByteArray>
 #include <QList>

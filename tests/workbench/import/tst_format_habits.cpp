@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "FormatHabits.h"
+#include "workbench/import/FormatHabits.h"
 
 #include <QTest>
 #include <assimp/importerdesc.h>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "GeometryBuilder.h"
+#include "workbench/import/GeometryBuilder.h"
 
 #include <OpenSG/OSGBaseFunctions.h>
 #include <QTest>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "ImportFileSystem.h"
 #include "ImportTesting.h"
+#include "workbench/import/ImportFileSystem.h"
 
 #include <QTest>
 #include <sys/stat.h>

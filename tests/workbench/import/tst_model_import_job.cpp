@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ModelImportJob.h"
+#include "workbench/files/ModelImportJob.h"
 
 #include "ImportTesting.h"
 #include "SceneOutline.h"

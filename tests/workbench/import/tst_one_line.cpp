@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "OneLine.h"
+#include "workbench/modelstream/OneLine.h"
 
 #include <QTest>
 

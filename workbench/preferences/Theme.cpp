@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 
-#include "workbench/Theme.h"
+#include "workbench/preferences/Theme.h"
 
-#include "workbench/Resources.h"
+#include "workbench/resources/Resources.h"
 
 #include <QApplication>
 #include <QFile>

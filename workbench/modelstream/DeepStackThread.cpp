@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "DeepStackThread.h"
+#include "workbench/modelstream/DeepStackThread.h"
 
 #include <utility>
 

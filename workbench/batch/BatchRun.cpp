@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 
-#include "workbench/BatchRun.h"
+#include "workbench/batch/BatchRun.h"
 
 #include "host/actions/AC_ActionInfo.h"
 #include "host/actions/AC_Manager.h"
 #include "host/models/AT_ModelNodeKey.h"
 #include "host/models/TD_CelVq3d.h"
 #include "host/scene/MO_ElementModule.h"
-#include "host/scene/MO_GroupModule.h"
+#include "host/scene/MO_ModuleVisitor.h"
 #include "host/scene/SC_CurrentFrameInterface.h"
 #include "host/scene/SC_SessionContext.h"
 #include "host/scene/TUScene.h"
@@ -16,7 +16,6 @@
 #include "host/selection/SL_Selection.h"
 #include "host/selection/SL_SelectionUtil.h"
 #include "referencehost/session/HostSession.h"
-#include "workbench/SubnodeDump.h"
 #include "workbench/WorkbenchWindow.h"
 
 #include <QApplication>
@@ -26,6 +25,19 @@
 #include <QSaveFile>
 #include <QTextStream>
 #include <cstdio>
+
+namespace {
+
+class ElementCollector : public MO_ModuleVisitor
+{
+public:
+    using MO_ModuleVisitor::visit;
+    void visit(MO_ElementModule* element) override { found.push_back(element); }
+
+    std::vector<const MO_ElementModule*> found;
+};
+
+} // namespace
 
 void printError(const QString& message)
 {
@@ -124,14 +136,17 @@ bool BatchRun::perform(const QString& action)
 ExitCode BatchRun::dump()
 {
     QTextStream out(stdout);
-    SubnodeDump dump(out, _commandLine.extended);
-    const TUScene* scene = _session.currentScene();
-    const int frame = _session.context().currentFrameInterface()->currentFrame(scene);
-    for (const MO_Node* node : scene->rootGroup()->nodes()) {
-        const auto* element = dynamic_cast<const MO_ElementModule*>(node);
-        const CEL_SharedPtr<TD_CelVq3d> model = element ? element->modelAt(frame) : nullptr;
-        if (model)
-            dump.write(element->instanceName(), model->rootNodePtr());
+    {
+        const TUScene* scene = _session.currentScene();
+        const int frame = _session.context().currentFrameInterface()->currentFrame(scene);
+        Dump dump(out, *_commandLine.dump, frame);
+        ElementCollector elements;
+        scene->accept(elements);
+        for (const MO_ElementModule* element : elements.found) {
+            const CEL_SharedPtr<TD_CelVq3d> model = element->modelAt(frame);
+            if (model)
+                dump.writeModel(element->instanceName(), listed(*element, *model, frame));
+        }
     }
     out.flush();
     if (std::ferror(stdout) != 0) {
@@ -139,6 +154,23 @@ ExitCode BatchRun::dump()
         return ExitFileError;
     }
     return ExitDone;
+}
+
+std::vector<ListedNode> BatchRun::listed(const MO_ElementModule& element, const TD_CelVq3d& model,
+                                         int frame) const
+{
+    ListingOptions options;
+    options.everyNode = _commandLine.extended;
+    options.filter = _commandLine.filter;
+    options.settings = element.seqMeta(frame);
+    if (const SLB_NodeInterface* selected = element.selInterface()) {
+        for (const int id : selected->subSelectedIds()) {
+            AT_ModelNodeKey key;
+            if (element.getNodeKeyForSelId(id, key))
+                options.selected.insert(key.name());
+        }
+    }
+    return listNodes(model.rootNodePtr(), options);
 }
 
 ExitCode BatchRun::takeScreenshot()

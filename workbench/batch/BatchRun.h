@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "workbench/CommandLine.h"
+#include "workbench/batch/CommandLine.h"
 
 class HostSession;
+class MO_ElementModule;
+class TD_CelVq3d;
 class WorkbenchWindow;
 
 /// The exit codes of the program.
@@ -34,6 +36,8 @@ public:
 
 private:
     bool perform(const QString& action);
+    std::vector<ListedNode> listed(const MO_ElementModule& element, const TD_CelVq3d& model,
+                                   int frame) const;
 
     const CommandLine& _commandLine;
     HostSession& _session;

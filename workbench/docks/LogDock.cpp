@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-#include "workbench/LogDock.h"
+#include "workbench/docks/LogDock.h"
 
 #include <QFontDatabase>
 #include <QPlainTextEdit>

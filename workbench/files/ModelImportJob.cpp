@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "ModelImportJob.h"
+#include "workbench/files/ModelImportJob.h"
 
-#include "DeepStackThread.h"
-#include "ImportProgress.h"
-#include "ModelImporter.h"
-#include "OneLine.h"
+#include "workbench/import/ModelImporter.h"
+#include "workbench/modelstream/DeepStackThread.h"
+#include "workbench/modelstream/ImportProgress.h"
+#include "workbench/modelstream/OneLine.h"
 
 #include <atomic>
 #include <utility>

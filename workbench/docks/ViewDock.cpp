@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-#include "workbench/ViewDock.h"
+#include "workbench/docks/ViewDock.h"
 
 #include "host/actions/AC_Manager.h"
 #include "host/layout/TULayoutView.h"

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-#include "workbench/ModelLoader.h"
+#include "workbench/files/ModelLoader.h"
 
 #include "host/models/TD_CelVq3d.h"
 #include "host/scene/MO_ElementModule.h"

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-#include "workbench/Resources.h"
+#include "workbench/resources/Resources.h"
 
 #include <QtGlobal>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "workbench/import/ModelImportJob.h"
+#include "workbench/files/ModelImportJob.h"
 
 #include <QObject>
 #include <QStringList>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 
-#include "workbench/ImportProgressDialog.h"
+#include "workbench/files/ImportProgressDialog.h"
 
-#include "workbench/ModelLoader.h"
+#include "workbench/files/ModelLoader.h"
 
 #include <QFileInfo>
 
