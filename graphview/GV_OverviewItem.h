@@ -11,6 +11,8 @@
 #include <cstdint>
 #include <vector>
 
+class MO_ElementModule;
+
 /// Draws the whole graph into an overview, and keeps the picture: as long as the graph would look
 /// the same pixel by pixel, it is only shown again.
 class SUBNODEVIEWS_EXPORT GV_OverviewItem : public GV_GraphXMainItem

@@ -1,20 +1,20 @@
 // SPDX-License-Identifier: MIT
 
 #include "host/preferences/PR_Preference.h"
-#include "host/scene/SC_CurrentFrameInterface.h"
-#include "host/scene/SC_SessionContext.h"
-#include "host/scene/TUScene.h"
-#include "host/scene/TUSceneChangeManager.h"
 #include "referencehost/services/Diagnostics.h"
 #include "referencehost/session/HostSession.h"
-#include "workbench/WorkbenchWindow.h"
 #include "workbench/batch/BatchRun.h"
 #include "workbench/batch/CommandLine.h"
 #include "workbench/import/ModelImporter.h"
-#include "workbench/preferences/Theme.h"
+#include "workbench/preferences/PreferencesDialog.h"
+#include "workbench/preferences/ThemeSwitch.h"
+#include "workbench/window/FileActions.h"
+#include "workbench/window/WorkbenchWindow.h"
 
 #include <OpenSG/OSGBaseFunctions.h>
 #include <QApplication>
+#include <QSettings>
+#include <QTemporaryDir>
 #include <algorithm>
 #include <cstdio>
 #include <optional>
@@ -84,33 +84,67 @@ private:
     bool _changed;
 };
 
-int run(const CommandLine& commandLine)
+/// Takes the place of the user's settings with none, for as long as it lives.
+class NoSettings
 {
-    HostSession session;
-    TUScene& scene = session.openScene(QApplication::translate("main", "Scene"));
-    session.context().currentFrameInterface()->setCurrentFrame(&scene, commandLine.frame);
-    session.context().changeManager()->notify();
+public:
+    NoSettings()
+    {
+        for (const QSettings::Scope scope : {QSettings::UserScope, QSettings::SystemScope})
+            QSettings::setPath(QSettings::NativeFormat, scope, _folder.path());
+    }
 
-    std::optional<DisplayModeForThisRun> mode(commandLine.extended);
-    WorkbenchWindow window(session);
-    mode.reset();
-    if (commandLine.size)
-        window.resize(*commandLine.size);
+private:
+    QTemporaryDir _folder;
+};
 
-    // What is asked for on the command line is data, and goes where data goes.
-    if (commandLine.isBatch())
-        Diagnostics::setSink([](const QString& text) { std::fputs(qUtf8Printable(text), stdout); });
+/// What is asked for on the command line, apart from what only a user can want.
+int doWork(const CommandLine& commandLine, HostSession& session, WorkbenchWindow& window)
+{
     BatchRun batch(commandLine, session, window);
-    if (!commandLine.isBatch())
-        window.show();
-    int code = batch.openModels();
+    int code = batch.openFiles();
+    batch.goToFrame();
+    batch.setFilter();
     code = std::max<int>(code, batch.selectSubnodes());
     code = std::max<int>(code, batch.performActions());
     if (commandLine.dump)
         code = std::max<int>(code, batch.dump());
     if (!commandLine.screenshot.isEmpty())
         code = std::max<int>(code, batch.takeScreenshot());
-    if (commandLine.isBatch() || !window.isVisible())
+    if (!commandLine.saveAs.isEmpty())
+        code = std::max<int>(code, batch.save());
+    return code;
+}
+
+int run(const CommandLine& commandLine)
+{
+    HostSession session;
+    session.openScene(QApplication::translate("main", "Untitled"));
+    const ThemeSwitch theme(ThemeSwitch::fromName(commandLine.theme));
+
+    WindowOptions options;
+    // Pictures come out the same whatever the user's window is like.
+    options.remembers = !commandLine.isBatch() && !commandLine.noSettings;
+    options.watches = commandLine.watch;
+    std::optional<DisplayModeForThisRun> mode(commandLine.extended);
+    WorkbenchWindow window(session, options);
+    mode.reset();
+    QObject::connect(
+        &window, &WorkbenchWindow::preferencesCreated, &theme,
+        [&theme](PreferencesDialog* dialog) { dialog->setThemeOverridden(theme.isOverridden()); });
+    if (commandLine.size)
+        window.resize(*commandLine.size);
+
+    if (commandLine.isBatch()) {
+        window.files().setAsks(false);
+        // What is asked for on the command line is data, and goes where data goes.
+        Diagnostics::setSink([](const QString& text) { std::fputs(qUtf8Printable(text), stdout); });
+        return doWork(commandLine, session, window);
+    }
+    window.show();
+    window.files().offerAbandoned();
+    const int code = doWork(commandLine, session, window);
+    if (!window.isVisible())
         return code;
     const int ended = QApplication::exec();
     return ended != 0 ? ended : code;
@@ -135,11 +169,13 @@ int main(int argc, char** argv)
     }
 
     choosePlatform(*outcome.commandLine);
-    QApplication application(argc, argv);
+    std::optional<NoSettings> noSettings;
+    if (outcome.commandLine->noSettings)
+        noSettings.emplace();
+    const QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("subnode-workbench"));
     QApplication::setOrganizationName(QStringLiteral("subnode-views"));
     QApplication::setApplicationVersion(QStringLiteral(SUBNODEVIEWS_VERSION));
-    Theme::apply(Theme::fromName(outcome.commandLine->theme).value_or(Theme::Light));
     osg::osgInit(argc, argv);
     const int code = run(*outcome.commandLine);
     osg::osgExit();

@@ -7,7 +7,6 @@
 #include "host/models/AT_ModelNodeKey.h"
 #include "host/models/TD_CelVq3d.h"
 #include "host/scene/MO_ElementModule.h"
-#include "host/scene/MO_ModuleVisitor.h"
 #include "host/scene/SC_CurrentFrameInterface.h"
 #include "host/scene/SC_SessionContext.h"
 #include "host/scene/TUScene.h"
@@ -15,29 +14,20 @@
 #include "host/selection/SLB_NodeInterface.h"
 #include "host/selection/SL_Selection.h"
 #include "host/selection/SL_SelectionUtil.h"
+#include "referencehost/scene/SceneElements.h"
 #include "referencehost/session/HostSession.h"
-#include "workbench/WorkbenchWindow.h"
+#include "subnodetree/SGV_Graph3DView.h"
+#include "workbench/window/FileActions.h"
+#include "workbench/window/WorkbenchWindow.h"
 
 #include <QApplication>
 #include <QEventLoop>
+#include <QLineEdit>
 #include <QPixmap>
 #include <QRegularExpression>
 #include <QSaveFile>
 #include <QTextStream>
 #include <cstdio>
-
-namespace {
-
-class ElementCollector : public MO_ModuleVisitor
-{
-public:
-    using MO_ModuleVisitor::visit;
-    void visit(MO_ElementModule* element) override { found.push_back(element); }
-
-    std::vector<const MO_ElementModule*> found;
-};
-
-} // namespace
 
 void printError(const QString& message)
 {
@@ -51,22 +41,37 @@ BatchRun::BatchRun(const CommandLine& commandLine, HostSession& session, Workben
 {
 }
 
-ExitCode BatchRun::openModels()
+ExitCode BatchRun::openFiles()
 {
-    if (_commandLine.models.isEmpty())
+    if (_commandLine.files.isEmpty())
         return ExitDone;
     ExitCode code = ExitDone;
     QEventLoop loop;
-    ModelLoader& loader = _window.loader();
-    QObject::connect(&loader, &ModelLoader::failed, &loop, [&code](const QString& message) {
+    FileActions& files = _window.files();
+    QObject::connect(&files, &FileActions::problem, &loop, [&code](const QString& message) {
         printError(message);
         code = ExitFileError;
     });
-    QObject::connect(&loader, &ModelLoader::finished, &loop, &QEventLoop::quit,
+    QObject::connect(&files, &FileActions::allOpened, &loop, &QEventLoop::quit,
                      Qt::QueuedConnection);
-    loader.load(_commandLine.models);
+    files.open(_commandLine.files);
     loop.exec();
     return code;
+}
+
+void BatchRun::goToFrame()
+{
+    if (!_commandLine.frame)
+        return;
+    _session.context().currentFrameInterface()->setCurrentFrame(_session.currentScene(),
+                                                                *_commandLine.frame);
+    _session.context().changeManager()->notify();
+}
+
+void BatchRun::setFilter()
+{
+    if (!_commandLine.filter.isEmpty())
+        _window.treeView().filterField()->setText(_commandLine.filter);
 }
 
 ExitCode BatchRun::selectSubnodes()
@@ -140,9 +145,7 @@ ExitCode BatchRun::dump()
         const TUScene* scene = _session.currentScene();
         const int frame = _session.context().currentFrameInterface()->currentFrame(scene);
         Dump dump(out, *_commandLine.dump, frame);
-        ElementCollector elements;
-        scene->accept(elements);
-        for (const MO_ElementModule* element : elements.found) {
+        for (const MO_ElementModule* element : elementsOf(scene)) {
             const CEL_SharedPtr<TD_CelVq3d> model = element->modelAt(frame);
             if (model)
                 dump.writeModel(element->instanceName(), listed(*element, *model, frame));
@@ -186,4 +189,13 @@ ExitCode BatchRun::takeScreenshot()
         return ExitFileError;
     }
     return ExitDone;
+}
+
+ExitCode BatchRun::save()
+{
+    QString error;
+    if (_window.files().saveTo(_commandLine.saveAs, error))
+        return ExitDone;
+    printError(error);
+    return ExitFileError;
 }

@@ -25,14 +25,17 @@ public:
     /// Nothing is owned.
     BatchRun(const CommandLine& commandLine, HostSession& session, WorkbenchWindow& window);
 
-    /// Blocks until the models are read. A model that cannot be read does not stop the others.
-    ExitCode openModels();
+    /// Blocks until the files are read. One that cannot be read does not stop the others.
+    ExitCode openFiles();
+    void goToFrame();
+    void setFilter();
     ExitCode selectSubnodes();
     /// An action that does not exist, or is not available now, is an error of usage and does not
     /// stop the others.
     ExitCode performActions();
     ExitCode dump();
     ExitCode takeScreenshot();
+    ExitCode save();
 
 private:
     bool perform(const QString& action);

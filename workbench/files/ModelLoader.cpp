@@ -14,6 +14,7 @@
 #include <QFileInfo>
 #include <QSet>
 #include <limits>
+#include <utility>
 
 namespace {
 
@@ -44,14 +45,29 @@ ModelLoader::ModelLoader(HostSession& session, QObject* parent)
 
 void ModelLoader::load(const QStringList& paths)
 {
-    _waiting += paths;
+    _requests.push_back({paths, {}, nullptr});
+    if (!_busy)
+        startNext();
+}
+
+void ModelLoader::read(const QStringList& paths, const ReadingDone& done)
+{
+    if (paths.isEmpty()) {
+        done({});
+        return;
+    }
+    _requests.push_back({paths, {}, done});
     if (!_busy)
         startNext();
 }
 
 void ModelLoader::cancel()
 {
-    _waiting.clear();
+    _cancelled = true;
+    for (Request& request : _requests) {
+        request.reading.cancelled = request.reading.cancelled || !request.waiting.isEmpty();
+        request.waiting.clear();
+    }
     _job.cancel();
 }
 
@@ -62,26 +78,57 @@ bool ModelLoader::isBusy() const
 
 void ModelLoader::startNext()
 {
-    _busy = !_waiting.isEmpty();
-    if (!_busy) {
-        emit finished();
-        return;
+    // Whoever is told here may ask for more files, which then wait for this to come to them, or
+    // cancel before the file is under way.
+    _busy = true;
+    while (!_requests.empty()) {
+        if (_requests.front().waiting.isEmpty()) {
+            finishRequest();
+            continue;
+        }
+        _cancelled = false;
+        _path = _requests.front().waiting.takeFirst();
+        emit started(_path);
+        if (!_cancelled) {
+            _job.start(_path);
+            return;
+        }
+        _requests.front().reading.cancelled = true;
     }
-    _path = _waiting.takeFirst();
-    emit started(_path);
-    _job.start(_path);
+    _busy = false;
+    emit finished();
+}
+
+void ModelLoader::finishRequest()
+{
+    const Request request = std::move(_requests.front());
+    _requests.pop_front();
+    if (request.done)
+        request.done(request.reading);
 }
 
 void ModelLoader::take(const ImportResult& result)
 {
-    if (result.succeeded())
-        emit loaded(addElement(result));
-    else if (!result.cancelled)
+    Request& request = _requests.front();
+    CEL_SharedPtr<TD_CelVq3d> model;
+    if (result.succeeded()) {
+        model = std::make_shared<TD_CelVq3d>(osg::NodePtr(result.root));
+        _library.note(model, _path);
+    }
+    if (result.cancelled)
+        request.reading.cancelled = true;
+    else if (request.done && model)
+        request.reading.models.insert_or_assign(_path, model);
+    else if (request.done)
+        request.reading.errors.insert_or_assign(_path, result.error);
+    else if (model)
+        emit loaded(addElement(model));
+    else
         emit failed(result.error);
     startNext();
 }
 
-MO_ElementModule* ModelLoader::addElement(const ImportResult& result)
+MO_ElementModule* ModelLoader::addElement(const CEL_SharedPtr<TD_CelVq3d>& model)
 {
     MO_GroupModule& group = *_session.currentScene()->rootGroup();
     auto made =
@@ -89,8 +136,7 @@ MO_ElementModule* ModelLoader::addElement(const ImportResult& result)
     MO_ElementModule* element = made.get();
     // The drawing comes once the element is in the scene, so that listeners hear of both.
     group.insertNode(std::move(made));
-    element->exposeModel(firstFrame, lastFrame,
-                         std::make_shared<TD_CelVq3d>(osg::NodePtr(result.root)));
+    element->exposeModel(firstFrame, lastFrame, model);
 
     SL_Selection* selection = _session.context().selection();
     if (selection->empty()) {

@@ -1,30 +1,52 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "workbench/files/ModelImportJob.h"
+#include "host/models/CEL_SharedPtr.h"
+#include "workbench/files/ModelLibrary.h"
+#include "workbench/modelstream/ModelImportJob.h"
 
 #include <QObject>
 #include <QStringList>
+#include <deque>
+#include <functional>
 
 class HostSession;
 class MO_ElementModule;
 
-/// Brings model files into the session's scene, one after the other, each as an element that shows
-/// the model on every frame. The element is named after its file. The first one is selected when
-/// nothing is. A file that cannot be read leaves the scene as it was.
+/// Reads model files, one after the other, and knows which model came from which file. A file is
+/// either brought into the session's scene, as an element named after it that shows the model on
+/// every frame, or only read for whoever asked. The first element is selected when nothing is. A
+/// file that cannot be read leaves the scene as it was.
 class ModelLoader : public QObject
 {
     Q_OBJECT
 
 public:
-    /// The session is not owned and must have a scene while anything is loading.
+    /// What became of files that were only read, by their paths as they were given.
+    struct Reading
+    {
+        std::map<QString, CEL_SharedPtr<TD_CelVq3d>> models;
+        /// One line with the file's name in it.
+        std::map<QString, QString> errors;
+        /// Whether some are in neither since they were not read any more.
+        bool cancelled = false;
+    };
+    using ReadingDone = std::function<void(const Reading&)>;
+
+    /// The session is not owned and must have a scene while elements are loading.
     explicit ModelLoader(HostSession& session, QObject* parent = nullptr);
 
     /// Adds the files to what is waiting, and starts when nothing is under way.
     void load(const QStringList& paths);
+    /// The same without making elements; nobody is told of failures but the one who asked. It is
+    /// called once, also after cancel(), but not when the loader dies before, and for no paths at
+    /// once.
+    void read(const QStringList& paths, const ReadingDone& done);
     /// Stops the file under way and forgets those that wait.
     void cancel();
     bool isBusy() const;
+    HostSession& session() const { return _session; }
+    ModelLibrary& library() { return _library; }
 
 signals:
     void started(const QString& path);
@@ -38,13 +60,25 @@ signals:
     void finished();
 
 private:
+    struct Request
+    {
+        QStringList waiting;
+        Reading reading;
+        /// Null when elements are made of the files.
+        ReadingDone done;
+    };
+
     void startNext();
     void take(const ImportResult& result);
-    MO_ElementModule* addElement(const ImportResult& result);
+    MO_ElementModule* addElement(const CEL_SharedPtr<TD_CelVq3d>& model);
+    void finishRequest();
 
     HostSession& _session;
+    ModelLibrary _library;
     ModelImportJob _job;
-    QStringList _waiting;
+    /// The first is under way.
+    std::deque<Request> _requests;
     QString _path;
     bool _busy = false;
+    bool _cancelled = false;
 };

@@ -5,7 +5,6 @@
 #include "workbench/import/SceneConverter.h"
 #include "workbench/modelstream/DeepStackThread.h"
 #include "workbench/modelstream/ImportProgress.h"
-#include "workbench/modelstream/OneLine.h"
 
 #include <OpenSG/OSGNode.h>
 #include <QCoreApplication>
@@ -22,26 +21,10 @@
 namespace {
 
 constexpr double readingEnds = 0.8;
-constexpr int reasonLimit = 200;
 
 QString tr(const char* text)
 {
     return QCoreApplication::translate("ModelImporter", text);
-}
-
-ImportResult failure(const QString& path, const QString& reason)
-{
-    ImportResult result;
-    result.error = (path.isEmpty() ? tr("(no file name)") : oneLine(path)) + QLatin1String(": ") +
-                   shortLine(reason, reasonLimit);
-    return result;
-}
-
-ImportResult cancellation(const QString& path)
-{
-    ImportResult result = failure(path, tr("the import was cancelled"));
-    result.cancelled = true;
-    return result;
 }
 
 /// Why the file need not even be handed to a reader; empty if it can be. Readers report these
@@ -86,25 +69,25 @@ ImportResult importOnDeepStack(const QString& path, ImportProgress* progress)
 {
     const auto isCancelled = [progress] { return progress && progress->isCancelled(); };
     if (isCancelled())
-        return cancellation(path);
+        return ImportResult::cancellation(path);
     const QString obstacle = whyNotReadable(path);
     if (!obstacle.isEmpty())
-        return failure(path, obstacle);
+        return ImportResult::failure(path, obstacle);
 
     AssimpReader reader(progress, readingEnds);
     const bool isRead = reader.read(QFile::encodeName(path).toStdString());
     if (isCancelled())
-        return cancellation(path);
+        return ImportResult::cancellation(path);
     if (!isRead)
-        return failure(path, readersReason(reader));
+        return ImportResult::failure(path, readersReason(reader));
     if (SceneConverter::isEmpty(reader))
-        return failure(path, emptyReason());
+        return ImportResult::failure(path, emptyReason());
 
     SceneConverter converter(reader, progress, readingEnds);
     ImportResult result;
     result.root = converter.convert();
     if (result.root == osg::NullFC)
-        return cancellation(path);
+        return ImportResult::cancellation(path);
     result.statistics = converter.statistics();
     if (progress)
         progress->report(1.0);
@@ -116,13 +99,13 @@ ImportResult importSafely(const QString& path, ImportProgress* progress)
     try {
         return importOnDeepStack(path, progress);
     } catch (const std::bad_alloc&) {
-        return failure(path, tr("there is not enough memory to read the file"));
+        return ImportResult::outOfMemory(path);
     } catch (const std::exception& exception) {
-        return failure(
+        return ImportResult::failure(
             path,
             tr("the file cannot be read as a model: %1").arg(QString::fromUtf8(exception.what())));
     } catch (...) {
-        return failure(path, tr("the file cannot be read as a model"));
+        return ImportResult::failure(path, tr("the file cannot be read as a model"));
     }
 }
 
@@ -131,10 +114,10 @@ ImportResult importSafely(const QString& path, ImportProgress* progress)
 ImportResult ModelImporter::importModel(const QString& path, ImportProgress* progress)
 {
     if (osg::NodeRefPtr(osg::Node::create()) == osg::NullFC)
-        return failure(path, tr("the scene graph has not been started"));
+        return ImportResult::failure(path, tr("the scene graph has not been started"));
     ImportResult result;
     if (!DeepStackThread::runAndWait([&] { result = importSafely(path, progress); }))
-        return failure(path, tr("there is not enough memory to read the file"));
+        return ImportResult::outOfMemory(path);
     return result;
 }
 

@@ -104,7 +104,7 @@ public:
             remembered = *before;
         _memory->set(_element.get(), std::exchange(_before, remembered));
 
-        Settings held = settingsAt(*_element, _frame);
+        Settings held = settingsAt(*_element.get(), _frame);
         _element->setSeqMeta(_frame,
                              _settings ? std::make_unique<AT_ModelData>(*_settings) : nullptr);
         _settings = std::move(held);

@@ -63,15 +63,15 @@ AT_ModelData VisibilitySettings::isolated(const std::optional<AT_ModelData>& hel
         const bool isSelected = selected.contains(key);
         const bool leadsToSelected = above.contains(key);
         if (TD_SceneGraphUtil::isKeySubnode(next.node)) {
-            const AT_ModelNodeData held = recordOf(settings, key);
-            AT_ModelNodeData record = held;
+            const AT_ModelNodeData present = recordOf(settings, key);
+            AT_ModelNodeData record = present;
             record.visible =
-                isSelected || leadsToSelected || (next.isWithinSelected && held.visible);
+                isSelected || leadsToSelected || (next.isWithinSelected && present.visible);
             if (isSelected)
                 record.localVisible = true;
             else if (record.visible && !next.isWithinSelected)
                 record.localVisible = false;
-            if (!(record == held))
+            if (!(record == present))
                 settings.setNodeData(key, record);
         }
         // Below the others nothing is drawn, or everything as it was.

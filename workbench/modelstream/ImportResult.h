@@ -35,4 +35,11 @@ struct ImportResult
     bool cancelled = false;
 
     bool succeeded() const { return error.isEmpty(); }
+
+    /// Results that say why there is no model. The path may be empty and both may hold anything.
+    static ImportResult failure(const QString& path, const QString& reason);
+    static ImportResult outOfMemory(const QString& path);
+    static ImportResult cancellation(const QString& path);
+    /// What every error about the file begins with.
+    static QString errorStart(const QString& path);
 };

@@ -6,21 +6,22 @@
 
 #include <QApplication>
 #include <QFile>
-#include <QPalette>
 #include <QStyleFactory>
 
 namespace {
 
 constexpr int middle = 128;
 
-bool isDark(const QPalette& palette)
+} // namespace
+
+Theme::Kind Theme::kindOf(const QPalette& palette)
 {
-    return palette.color(QPalette::Window).lightness() < middle;
+    return palette.color(QPalette::Window).lightness() < middle ? Dark : Light;
 }
 
-QPalette palette(Theme::Kind kind)
+QPalette Theme::palette(Kind kind)
 {
-    const bool dark = kind == Theme::Dark;
+    const bool dark = kind == Dark;
     const QColor window(dark ? 0x353535 : 0xefefef);
     const QColor text(dark ? 0xdcdcdc : 0x000000);
     const QColor disabled(dark ? 0x808080 : 0xa0a0a0);
@@ -40,7 +41,13 @@ QPalette palette(Theme::Kind kind)
     return result;
 }
 
-} // namespace
+QString Theme::styleSheet(Kind kind)
+{
+    initWorkbenchResources();
+    QFile sheet(kind == Dark ? QStringLiteral(":/workbench/themes/dark.qss")
+                             : QStringLiteral(":/workbench/themes/light.qss"));
+    return sheet.open(QIODevice::ReadOnly) ? QString::fromUtf8(sheet.readAll()) : QString();
+}
 
 std::optional<Theme::Kind> Theme::fromName(const QString& name)
 {
@@ -49,19 +56,15 @@ std::optional<Theme::Kind> Theme::fromName(const QString& name)
     if (name == QLatin1String("dark"))
         return Dark;
     if (name == QLatin1String("system"))
-        return isDark(QApplication::palette()) ? Dark : Light;
+        return kindOf(QApplication::palette());
     return std::nullopt;
 }
 
 void Theme::apply(Kind kind)
 {
-    initWorkbenchResources();
-    if (isDark(QApplication::palette()) != (kind == Dark)) {
+    if (kindOf(QApplication::palette()) != kind) {
         QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
         QApplication::setPalette(palette(kind));
     }
-    QFile sheet(kind == Dark ? QStringLiteral(":/workbench/themes/dark.qss")
-                             : QStringLiteral(":/workbench/themes/light.qss"));
-    if (sheet.open(QIODevice::ReadOnly))
-        qApp->setStyleSheet(QString::fromUtf8(sheet.readAll()));
+    qApp->setStyleSheet(styleSheet(kind));
 }

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QPalette>
 #include <QString>
 #include <optional>
 
-/// How the application looks: its palette and its style sheet, which also colours the views.
+/// The two ways in which the application can look: a palette and a style sheet, which also colours
+/// the views.
 namespace Theme {
 
 enum Kind
@@ -12,6 +14,13 @@ enum Kind
     Light,
     Dark
 };
+
+Kind kindOf(const QPalette& palette);
+
+QPalette palette(Kind kind);
+
+/// Empty when it cannot be read.
+QString styleSheet(Kind kind);
 
 /// Nothing when the text names no theme. "system" is what the desktop's palette is like.
 std::optional<Kind> fromName(const QString& name);

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "workbench/files/ModelImportJob.h"
+#include "workbench/modelstream/ModelImportJob.h"
 
-#include "workbench/import/ModelImporter.h"
-#include "workbench/modelstream/DeepStackThread.h"
+#include "workbench/modelstream/ImportProcess.h"
 #include "workbench/modelstream/ImportProgress.h"
-#include "workbench/modelstream/OneLine.h"
 
+#include <QThread>
 #include <atomic>
 #include <utility>
 
@@ -60,12 +59,12 @@ bool ModelImportJob::start(const QString& path)
     if (isRunning())
         return false;
     _progress = std::make_unique<Progress>(this);
-    _result = ImportResult();
     // What finish() finds if the thread cannot be started.
-    _result.error =
-        oneLine(path) + QLatin1String(": ") + tr("there is not enough memory to read the file");
-    _thread = std::make_unique<DeepStackThread>(
-        [this, path] { _result = ModelImporter::importModel(path, _progress.get()); });
+    _result = ImportResult::outOfMemory(path);
+    const QString program = _program.isEmpty() ? ImportProcess::standardProgram() : _program;
+    _thread.reset(QThread::create([this, path, program, limits = _limits] {
+        _result = ImportProcess(program, limits, _progress.get()).run(path);
+    }));
     // The result changes hands when the thread has ended: its references are not atomic.
     connect(_thread.get(), &QThread::finished, this, &ModelImportJob::finish, Qt::QueuedConnection);
     _thread->start();

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QSet>
+#include <QString>
+
+class GV_GraphXViewQt;
+class SGV_Graph3DView;
+
+/// What a user has folded in a graph view, by the names of the subnodes, so that it can be brought
+/// back when a model was read anew. A value.
+class GraphViewState
+{
+public:
+    explicit GraphViewState(const GV_GraphXViewQt& view);
+    /// Folds what was folded and is still there; what is new stays unfolded.
+    void restore(GV_GraphXViewQt& view) const;
+
+private:
+    QSet<QString> _collapsed;
+};
+
+/// The same for a subnode tree: which rows were expanded, which one was current, and how far the
+/// list was scrolled.
+class TreeViewState
+{
+public:
+    explicit TreeViewState(const SGV_Graph3DView& view);
+    void restore(SGV_Graph3DView& view) const;
+
+private:
+    QSet<QString> _expanded;
+    QString _current;
+    int _scrolled = 0;
+};
