@@ -4,9 +4,7 @@
 
 #include "workbench/resources/Resources.h"
 
-#include <QApplication>
 #include <QFile>
-#include <QStyleFactory>
 
 namespace {
 
@@ -47,24 +45,4 @@ QString Theme::styleSheet(Kind kind)
     QFile sheet(kind == Dark ? QStringLiteral(":/workbench/themes/dark.qss")
                              : QStringLiteral(":/workbench/themes/light.qss"));
     return sheet.open(QIODevice::ReadOnly) ? QString::fromUtf8(sheet.readAll()) : QString();
-}
-
-std::optional<Theme::Kind> Theme::fromName(const QString& name)
-{
-    if (name == QLatin1String("light"))
-        return Light;
-    if (name == QLatin1String("dark"))
-        return Dark;
-    if (name == QLatin1String("system"))
-        return kindOf(QApplication::palette());
-    return std::nullopt;
-}
-
-void Theme::apply(Kind kind)
-{
-    if (kindOf(QApplication::palette()) != kind) {
-        QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-        QApplication::setPalette(palette(kind));
-    }
-    qApp->setStyleSheet(styleSheet(kind));
 }

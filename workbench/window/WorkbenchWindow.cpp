@@ -343,6 +343,7 @@ ViewDock* WorkbenchWindow::openGraphView()
     TULayoutView* view = _graphView->clone(this);
     auto* dock = new ViewDock(tr("Graph View %1").arg(++_openedGraphViews), view,
                               _session.context().actionManager(), this);
+    dock->setObjectName(QStringLiteral("GraphDock%1").arg(_openedGraphViews));
     if (_graphDock->isHidden())
         addDockWidget(Qt::RightDockWidgetArea, dock);
     else
