@@ -10,9 +10,35 @@
 #include "workbench/timeline/TimelineRows.h"
 
 #include <QAction>
+#include <QEvent>
+#include <QPainter>
 #include <QStyle>
 #include <QToolButton>
 #include <limits>
+
+namespace {
+
+/// The style draws its signs dark, whatever is behind them, so only their shapes are taken.
+QIcon signOf(const QWidget& widget, QStyle::StandardPixmap sign)
+{
+    const QIcon original = widget.style()->standardIcon(sign);
+    QIcon icon;
+    for (const QIcon::Mode mode : {QIcon::Normal, QIcon::Disabled}) {
+        const QPalette::ColorGroup group =
+            mode == QIcon::Normal ? QPalette::Active : QPalette::Disabled;
+        const int size = widget.style()->pixelMetric(QStyle::PM_SmallIconSize);
+        QPixmap shape = original.pixmap(QSize(size, size), widget.devicePixelRatio());
+        QPainter painter(&shape);
+        painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+        painter.fillRect(QRect(0, 0, size, size),
+                         widget.palette().color(group, QPalette::ButtonText));
+        painter.end();
+        icon.addPixmap(shape, mode);
+    }
+    return icon;
+}
+
+} // namespace
 
 TransportBar::TransportBar(HostSession& session, const TimelineRows& rows, Playback& playback,
                            QWidget* parent)
@@ -52,8 +78,8 @@ QList<QAction*> TransportBar::transportActions() const
 
 QAction* TransportBar::addButton(int icon, const QString& text, const QKeySequence& key)
 {
-    QAction* action =
-        addAction(style()->standardIcon(static_cast<QStyle::StandardPixmap>(icon)), text);
+    QAction* action = addAction(text);
+    action->setData(icon);
     action->setShortcut(key);
     action->setShortcutContext(Qt::WidgetShortcut);
     action->setToolTip(QStringLiteral("%1 (%2)").arg(text, key.toString(QKeySequence::NativeText)));
@@ -89,7 +115,8 @@ void TransportBar::showPlaying(bool playing)
 {
     const QString text = playing ? tr("Pause") : tr("Play");
     _play->setText(text);
-    _play->setIcon(style()->standardIcon(playing ? QStyle::SP_MediaPause : QStyle::SP_MediaPlay));
+    _play->setData(playing ? QStyle::SP_MediaPause : QStyle::SP_MediaPlay);
+    drawIcons();
     _play->setToolTip(
         QStringLiteral("%1 (%2)").arg(text, _play->shortcut().toString(QKeySequence::NativeText)));
     widgetForAction(_play)->setAccessibleName(text);
@@ -104,4 +131,18 @@ void TransportBar::enable()
     _next->setEnabled(open);
     _last->setEnabled(open && frame != _rows.lastFrame());
     _play->setEnabled(open && _rows.lastFrame() > 1);
+}
+
+void TransportBar::drawIcons()
+{
+    for (QAction* action : transportActions())
+        action->setIcon(signOf(*this, static_cast<QStyle::StandardPixmap>(action->data().toInt())));
+}
+
+void TransportBar::changeEvent(QEvent* event)
+{
+    QToolBar::changeEvent(event);
+    // The base class tells of changes before there are actions, too.
+    if (_loop && (event->type() == QEvent::PaletteChange || event->type() == QEvent::StyleChange))
+        drawIcons();
 }

@@ -24,11 +24,15 @@ public:
     /// All of the actions, in the order of the buttons.
     QList<QAction*> transportActions() const;
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
     QAction* addButton(int icon, const QString& text, const QKeySequence& key);
     void createActions();
     void showPlaying(bool playing);
     void enable();
+    void drawIcons();
 
     HostSession& _session;
     const TimelineRows& _rows;
