@@ -15,8 +15,9 @@
 #include "host/selection/SLB_NodeInterface.h"
 #include "host/selection/SL_Selection.h"
 #include "referencehost/session/HostSession.h"
-#include "workbench/WorkbenchWindow.h"
 #include "workbench/docks/SceneListDock.h"
+#include "workbench/window/FileActions.h"
+#include "workbench/window/WorkbenchWindow.h"
 
 #include <OpenSG/OSGBaseFunctions.h>
 #include <QAction>
@@ -33,23 +34,36 @@
 class WindowTest : public QObject
 {
 protected:
-    void openWindow()
+    /// A window over an empty scene.
+    void openEmptyWindow(const WindowOptions& options = {})
     {
-        // Off screen, a window with docks is remarked upon; anything else is a failure.
+        // Off screen, docks, menus and tool tips are remarked upon; anything else is a failure.
         QTest::failOnWarning(QRegularExpression(
-            QStringLiteral("^(?!This plugin does not support propagateSizeHints).")));
+            QStringLiteral("^(?!This plugin does not support "
+                           "(propagateSizeHints|raise|grabbing the keyboard))")));
         PR_Preference::instance()->reset(QStringLiteral("GV_EXTENDED_DISPLAY"));
         _session = std::make_unique<HostSession>();
         _session->openScene(QStringLiteral("scene"));
-        _window = std::make_unique<WorkbenchWindow>(*_session);
-        QSignalSpy finished(&_window->loader(), &ModelLoader::finished);
-        _window->loader().load({QStringLiteral(MODELS "/robot.gltf")});
-        QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 30000);
-        _robot = dynamic_cast<MO_ElementModule*>(root().nodes().front());
-        QVERIFY(_robot);
+        _window = std::make_unique<WorkbenchWindow>(*_session, options);
         _window->show();
         _window->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(_window.get()));
+    }
+
+    void openWindow()
+    {
+        openEmptyWindow();
+        open({QStringLiteral(MODELS "/robot.gltf")});
+        _robot = element(0);
+        QVERIFY(_robot);
+    }
+
+    /// Opens the files and waits until all are open.
+    void open(const QStringList& paths)
+    {
+        QSignalSpy opened(&_window->files(), &FileActions::allOpened);
+        _window->files().open(paths);
+        QTRY_COMPARE_WITH_TIMEOUT(opened.count(), 1, 30000);
     }
 
     void closeWindow()
@@ -68,6 +82,29 @@ protected:
     GV_GraphXViewQt& graph() { return _window->graphView(); }
     QTreeWidget& list() { return *_window->sceneList().list(); }
 
+    /// Null when the scene has fewer nodes, or this one shows no models.
+    MO_ElementModule* element(std::size_t index)
+    {
+        const auto& nodes = root().nodes();
+        return index < nodes.size() ? dynamic_cast<MO_ElementModule*>(nodes[index]) : nullptr;
+    }
+    /// The names of the subnodes that are selected in the element.
+    static QStringList subSelected(const MO_ElementModule& element)
+    {
+        QStringList names;
+        for (const int id : element.selInterface()->subSelectedIds()) {
+            AT_ModelNodeKey key;
+            if (element.getNodeKeyForSelId(id, key))
+                names << key.name();
+        }
+        return names;
+    }
+    static bool isHidden(const MO_ElementModule& element, const QString& name)
+    {
+        const AT_ModelData* data = element.seqMeta(1);
+        const AT_ModelNodeData* record = data ? data->nodeData(AT_ModelNodeKey(name)) : nullptr;
+        return record && !record->visible;
+    }
     MO_Node* addPeg(const char* name)
     {
         MO_Node* peg = root().insertNode(std::make_unique<MO_PegModule>(QString::fromLatin1(name)));

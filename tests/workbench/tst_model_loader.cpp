@@ -8,7 +8,7 @@
 #include "host/scene/TUScene.h"
 #include "host/selection/SL_Selection.h"
 #include "referencehost/session/HostSession.h"
-#include "workbench/WorkbenchWindow.h"
+#include "workbench/window/WorkbenchWindow.h"
 #include "workbench/files/ImportProgressDialog.h"
 #include "workbench/files/ModelLoader.h"
 

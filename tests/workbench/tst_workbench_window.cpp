@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-#include "workbench/WorkbenchWindow.h"
+#include "workbench/window/WorkbenchWindow.h"
 
 #include "host/actions/AC_Manager.h"
 #include "host/scene/SC_CurrentFrameInterface.h"
@@ -10,7 +10,11 @@
 #include "tests/workbench/WindowTest.h"
 #include "workbench/docks/LogDock.h"
 #include "workbench/docks/ViewDock.h"
+#include "workbench/isolation/IsolationResponder.h"
 #include "workbench/timeline/FrameBox.h"
+#include "workbench/timeline/TimelineDock.h"
+#include "workbench/timeline/TransportBar.h"
+#include "workbench/window/MessageBar.h"
 
 #include <QDomDocument>
 #include <QFile>
@@ -43,12 +47,7 @@ private:
         QCoreApplication::sendEvent(view.viewport(), &event);
     }
 
-    bool isHidden(const QString& name)
-    {
-        const AT_ModelData* data = _robot->seqMeta(1);
-        const AT_ModelNodeData* record = data ? data->nodeData(AT_ModelNodeKey(name)) : nullptr;
-        return record && !record->visible;
-    }
+    bool isHidden(const QString& name) { return WindowTest::isHidden(*_robot, name); }
 
     static GV_GraphXViewQt* viewOf(const ViewDock* dock)
     {
@@ -79,20 +78,27 @@ private slots:
 
     void menus_are_complete()
     {
-        QCOMPARE(textsOf(_window->menuBar()->actions()),
-                 (QStringList{"File", "Edit", "View", "Subnodes", "Window"}));
-        QCOMPARE(textsOf(menu("File")->actions()), (QStringList{"Open...", "-", "Quit"}));
+        QCOMPARE(
+            textsOf(_window->menuBar()->actions()),
+            (QStringList{"File", "Edit", "View", "Subnodes", "Playback", "Window", "Help"}));
+        QCOMPARE(textsOf(menu("File")->actions()),
+                 (QStringList{"New Scene", "Open...", "Open Recent", "Reload Models",
+                              "Reload When Files Change", "-", "Save", "Save As...", "-", "Quit"}));
         QCOMPARE(textsOf(menu("Edit")->actions()).mid(2),
-                 (QStringList{"-", "Select All", "Deselect All"}));
+                 (QStringList{"-", "Select All", "Deselect All", "Filter Subnodes", "-",
+                              "Preferences..."}));
         QCOMPARE(
             textsOf(menu("Subnodes")->actions()),
-            (QStringList{"Show", "Hide", "Hide All Others", "-", "Enable", "Disable", "Show Shape",
-                         "Hide Shape", "-", "Select Parent", "Select First Child",
+            (QStringList{"Show", "Hide", "Hide All Others", "Isolate", "-", "Enable", "Disable",
+                         "Show Shape", "Hide Shape", "-", "Select Parent", "Select First Child",
                          "Select Next Sibling", "Select Previous Sibling", "-",
                          "Make Properties Available", "Add Kinematic Output", "Dump Scene Graph"}));
+        QCOMPARE(textsOf(menu("Playback")->actions()),
+                 textsOf(_window->timeline().transport().transportActions()));
         QCOMPARE(textsOf(menu("Window")->actions()),
                  (QStringList{"New Graph View", "-", "Scene", "Subnode Tree", "Graph View",
-                              "History", "Log"}));
+                              "Time Line", "History", "Log", "-", "Reset Layout"}));
+        QCOMPARE(textsOf(menu("Help")->actions()), (QStringList{"Find Action...", "About Qt"}));
         context().actionManager()->validateActions();
         QCOMPARE(textsOf(menu("View")->actions()),
                  (QStringList{"Zoom In", "Zoom Out", "Actual Size", "Go to Top Left", "Reset View",
@@ -106,10 +112,13 @@ private slots:
     {
         const QList<QToolBar*> bars = _window->findChildren<QToolBar*>(Qt::FindDirectChildrenOnly);
         QCOMPARE(bars.size(), 2);
-        QCOMPARE(bars[0]->actions().size(), 14);
+        QCOMPARE(bars[0]->actions().size(), 15);
         for (const QAction* action : bars[0]->actions())
             QVERIFY2(action->isSeparator() || !action->icon().isNull(), qPrintable(action->text()));
-        QCOMPARE(bars[1]->findChildren<FrameBox*>().size(), 1);
+        QCOMPARE(bars[1], &_window->messages());
+        QVERIFY(!bars[1]->isVisible());
+        QCOMPARE(_window->findChildren<FrameBox*>().size(), 1);
+        QVERIFY(_window->timeline().transport().isAncestorOf(_window->findChild<FrameBox*>()));
         const auto* tree = _window->findChild<QToolBar*>(QStringLiteral("graph3dtoolbar"));
         QVERIFY(tree && tree->isVisible());
         // Four actions, the space, and the button of the view's menu.
@@ -134,6 +143,7 @@ private slots:
             {graph().responderIdentity(), {graphView}},
             {_window->treeView().responderIdentity(), {treeView}},
             {QStringLiteral("graph3dresponder"), {&GT_Graph3DResponder::staticMetaObject}},
+            {QStringLiteral("isolation"), {&IsolationResponder::staticMetaObject}},
             {QStringLiteral("*"), {graphView, treeView}}};
         for (int i = 0; i < actions.size(); ++i) {
             const QDomElement action = actions.at(i).toElement();
@@ -173,13 +183,7 @@ private slots:
     {
         subSelect(QStringLiteral("Torso"));
         graph().setFocus();
-        const auto subSelected = [this] {
-            AT_ModelNodeKey key;
-            const std::vector<int>& ids = _robot->selInterface()->subSelectedIds();
-            if (!ids.empty())
-                _robot->getNodeKeyForSelId(ids.front(), key);
-            return key.name();
-        };
+        const auto subSelected = [this] { return WindowTest::subSelected(*_robot).value(0); };
         key(Qt::Key_Up, Qt::AltModifier);
         QCOMPARE(subSelected(), QStringLiteral("Hips"));
         QVERIFY(!entry("Subnodes", "Select Parent")->isEnabled());

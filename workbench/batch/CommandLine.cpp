@@ -2,6 +2,8 @@
 
 #include "workbench/batch/CommandLine.h"
 
+#include "workbench/modelstream/OneLine.h"
+
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QRegularExpression>
@@ -51,9 +53,10 @@ struct Options
     }
 };
 
+/// Values are repeated as they were typed, and may be anything.
 CommandLine::Outcome failure(const QString& text)
 {
-    return {std::nullopt, text, true};
+    return {std::nullopt, oneLine(text), true};
 }
 
 std::optional<QSize> parsedSize(const QString& text)

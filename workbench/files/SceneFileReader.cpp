@@ -28,11 +28,17 @@ QJsonObject parsed(const QByteArray& bytes, SceneProblems& problems)
     return QJsonDocument::fromJson(jsonSalvagedBefore(bytes, error.offset)).object();
 }
 
+/// Qt takes what begins with a colon for a path into the program.
+bool isRelative(const QString& path)
+{
+    return QDir::isRelativePath(path) || path.startsWith(u':');
+}
+
 QString absolutePath(const QString& path, const QString& folder)
 {
     if (path.isEmpty())
         return {};
-    const bool canResolve = !folder.isEmpty() && QDir::isRelativePath(path);
+    const bool canResolve = !folder.isEmpty() && isRelative(path);
     return QDir::cleanPath(canResolve ? folder + u'/' + path : path);
 }
 
@@ -40,9 +46,10 @@ SceneDescription::Model modelOf(const JsonMembers& members, const QString& folde
 {
     const QString relative = members.text(QLatin1String("path"));
     const QString absolute = absolutePath(members.text(QLatin1String("absolute")), {});
-    SceneDescription::Model model{absolutePath(relative, folder), absolute};
-    if (model.path.isEmpty() || (folder.isEmpty() && !absolute.isEmpty()))
-        model.path = absolute;
+    SceneDescription::Model model{absolutePath(relative, folder),
+                                  isRelative(absolute) ? QString() : absolute};
+    if (model.path.isEmpty() || (folder.isEmpty() && !model.otherPath.isEmpty()))
+        model.path = model.otherPath;
     if (model.otherPath == model.path)
         model.otherPath.clear();
     return model;

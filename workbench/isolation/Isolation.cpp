@@ -6,6 +6,7 @@
 #include "host/commands/CO_CommandManager.h"
 #include "host/models/AT_ModelNodeKey.h"
 #include "host/models/TD_CelVq3d.h"
+#include "host/models/TD_KeyNodeFinders.h"
 #include "host/scene/MO_ElementModule.h"
 #include "host/scene/SC_CurrentFrameInterface.h"
 #include "host/scene/SC_SessionContext.h"
@@ -33,7 +34,8 @@ Settings settingsAt(const MO_ElementModule& element, int frame)
     return isOwn ? Settings(*data) : Settings();
 }
 
-std::vector<AT_ModelNodeKey> selectedKeys(const MO_ElementModule& element)
+/// The subnodes that are selected and that the model has.
+std::vector<AT_ModelNodeKey> selectedKeys(const MO_ElementModule& element, const TD_CelVq3d& model)
 {
     std::vector<AT_ModelNodeKey> keys;
     const SLB_NodeInterface* selected = element.selInterface();
@@ -41,7 +43,8 @@ std::vector<AT_ModelNodeKey> selectedKeys(const MO_ElementModule& element)
         return keys;
     for (const int id : selected->subSelectedIds()) {
         AT_ModelNodeKey key;
-        if (element.getNodeKeyForSelId(id, key))
+        if (element.getNodeKeyForSelId(id, key) &&
+            TD_FindKeyNode()(model.rootNodePtr(), key) != osg::NullFC)
             keys.push_back(key);
     }
     return keys;
@@ -138,12 +141,20 @@ MO_ElementModule* Isolation::selectedElement() const
     return dynamic_cast<MO_ElementModule*>(node);
 }
 
+int Isolation::currentFrame(const MO_ElementModule& element) const
+{
+    return _session.context().currentFrameInterface()->currentFrame(element.sceneCommon());
+}
+
 bool Isolation::canToggle() const
 {
     const MO_ElementModule* element = selectedElement();
     if (!element)
         return false;
-    return isIsolated(element) || (element->isEditable() && !selectedKeys(*element).empty());
+    if (isIsolated(element))
+        return true;
+    const CEL_SharedPtr<TD_CelVq3d> model = element->modelAt(currentFrame(*element));
+    return model && element->isEditable() && !selectedKeys(*element, *model).empty();
 }
 
 bool Isolation::toggle()
@@ -156,11 +167,8 @@ bool Isolation::toggle()
 
 bool Isolation::isolate(MO_ElementModule& element)
 {
-    const int current =
-        _session.context().currentFrameInterface()->currentFrame(element.sceneCommon());
+    const int current = currentFrame(element);
     const CEL_SharedPtr<TD_CelVq3d> model = element.modelAt(current);
-    if (!model)
-        return false;
     Before before;
     if (!element.frameOfSeqMeta(element.seqMeta(current), before.frame))
         before.frame = firstFrame;

@@ -22,7 +22,8 @@ public:
     bool isIsolated(const MO_ElementModule* element) const;
     /// The element that was selected first; null when there is none.
     MO_ElementModule* selectedElement() const;
-    /// Whether there are subnodes to isolate, or an isolation to leave.
+    /// Whether subnodes of the model that is shown now are selected, or there is an isolation to
+    /// leave.
     bool canToggle() const;
 
     /// Isolates the selected subnodes of the selected element at the current frame, or leaves the
@@ -34,6 +35,7 @@ private:
     class Memory;
     class Step;
 
+    int currentFrame(const MO_ElementModule& element) const;
     bool isolate(MO_ElementModule& element);
     bool leave(MO_ElementModule& element);
 

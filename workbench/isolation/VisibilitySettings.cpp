@@ -31,10 +31,13 @@ std::set<AT_ModelNodeKey> keysAbove(const osg::NodePtr& root,
                                     const std::set<AT_ModelNodeKey>& selected)
 {
     std::set<AT_ModelNodeKey> above;
+    std::set<osg::NodePtr> known;
     for (const AT_ModelNodeKey& key : selected) {
         osg::NodePtr node = TD_FindParentKeyNode()(TD_FindKeyNode()(root, key));
-        while (node != osg::NullFC && above.insert(keyOf(node)).second)
+        while (node != osg::NullFC && known.insert(node).second) {
+            above.insert(keyOf(node));
             node = TD_FindParentKeyNode()(node);
+        }
     }
     return above;
 }
@@ -60,16 +63,17 @@ AT_ModelData VisibilitySettings::isolated(const std::optional<AT_ModelData>& hel
         const Pending next = pending.back();
         pending.pop_back();
         const AT_ModelNodeKey key = keyOf(next.node);
-        const bool isSelected = selected.contains(key);
-        const bool leadsToSelected = above.contains(key);
-        if (TD_SceneGraphUtil::isKeySubnode(next.node)) {
+        const bool isSubnode = TD_SceneGraphUtil::isKeySubnode(next.node);
+        const bool isSelected = isSubnode && selected.contains(key);
+        const bool leadsToSelected = isSubnode && above.contains(key);
+        const bool isOnWithin = next.isWithinSelected && recordOf(settings, key).visible;
+        if (isSubnode) {
             const AT_ModelNodeData present = recordOf(settings, key);
             AT_ModelNodeData record = present;
-            record.visible =
-                isSelected || leadsToSelected || (next.isWithinSelected && present.visible);
+            record.visible = isSelected || leadsToSelected || isOnWithin;
             if (isSelected)
                 record.localVisible = true;
-            else if (record.visible && !next.isWithinSelected)
+            else if (record.visible && !isOnWithin)
                 record.localVisible = false;
             if (!(record == present))
                 settings.setNodeData(key, record);
@@ -80,7 +84,7 @@ AT_ModelData VisibilitySettings::isolated(const std::optional<AT_ModelData>& hel
         std::vector<osg::NodePtr> children;
         TD_FindChildrenKeyNode::getChildren(next.node, children);
         for (const osg::NodePtr& child : children)
-            pending.push_back({child, next.isWithinSelected || isSelected});
+            pending.push_back({child, isOnWithin || isSelected});
     }
     return settings;
 }

@@ -75,6 +75,14 @@ bool sendAll(const Property& property, qsizetype valueSize, const Put& putValue,
     return true;
 }
 
+void writeMatrix(QDataStream& stream, const osg::Matrix& matrix)
+{
+    char bytes[16 * sizeof(float)];
+    for (osg::UInt32 i = 0; i < 16; ++i)
+        qToLittleEndian<float>(matrix[i / 4][i % 4], bytes + i * sizeof(float));
+    stream.writeRawData(bytes, sizeof bytes);
+}
+
 std::optional<Kind> kindOf(const osg::NodeCorePtr& core)
 {
     if (core == osg::NullFC)
@@ -158,9 +166,8 @@ bool ModelStreamWriter::writeNode(const osg::NodePtr& node, quint32 level)
     }
     if (geometry != osg::NullFC)
         *_nodeStream << _meshes.value(geometry.getCPtr());
-    const osg::TransformPtr transform = osg::TransformPtr::dcast(node->getCore());
-    for (osg::UInt32 i = 0; transform != osg::NullFC && i < 16; ++i)
-        *_nodeStream << transform->getMatrix()[i / 4][i % 4];
+    if (const osg::TransformPtr transform = osg::TransformPtr::dcast(node->getCore()))
+        writeMatrix(*_nodeStream, transform->getMatrix());
     ++_nodeCount;
     return _nodes.size() < frameAim || flushNodes();
 }

@@ -4,6 +4,7 @@
 #include <OpenSG/OSGKeyTransform.h>
 #include <OpenSG/OSGSimpleAttachments.h>
 #include <QDataStream>
+#include <QtEndian>
 #include <cmath>
 #include <limits>
 #include <optional>
@@ -18,11 +19,14 @@ constexpr qint64 nodeCost = 512;
 
 std::optional<osg::Matrix> readMatrix(QDataStream& stream)
 {
+    // At once, since the stream takes longer for a number than anything that is made of it.
+    char bytes[16 * sizeof(float)];
+    if (stream.readRawData(bytes, sizeof bytes) != sizeof bytes)
+        return std::nullopt;
     osg::Matrix matrix;
     for (osg::UInt32 i = 0; i < 16; ++i) {
-        float number = 0.0F;
-        stream >> number;
-        if (stream.status() != QDataStream::Ok || !std::isfinite(number))
+        const auto number = qFromLittleEndian<float>(bytes + i * sizeof(float));
+        if (!std::isfinite(number))
             return std::nullopt;
         matrix[i / 4][i % 4] = number;
     }
