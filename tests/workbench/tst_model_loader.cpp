@@ -8,6 +8,7 @@
 #include "host/scene/TUScene.h"
 #include "host/selection/SL_Selection.h"
 #include "referencehost/session/HostSession.h"
+#include "workbench/window/MessageBar.h"
 #include "workbench/window/WorkbenchWindow.h"
 #include "workbench/files/ImportProgressDialog.h"
 #include "workbench/files/ModelLoader.h"
@@ -166,7 +167,8 @@ void tst_model_loader::the_window_shows_what_went_wrong()
 {
     WorkbenchWindow window(*_session);
     loadAll(window.loader(), {_folder->filePath("missing.obj")});
-    QVERIFY(window.statusBar()->currentMessage().contains("missing.obj"));
+    QCOMPARE(window.messages().messages().size(), 1);
+    QVERIFY(window.messages().messages().first().contains("missing.obj"));
     loadAll(window.loader(), {model("arm.obj")});
     QVERIFY(window.statusBar()->currentMessage().contains("arm"));
 }
