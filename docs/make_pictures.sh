@@ -1,47 +1,63 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Makes the pictures of the documents anew, so that they show what the program really draws.
+# Makes the pictures of the documents anew, so that they show what the program really draws:
+#   docs/make_pictures.sh            with the release build
+#   BUILD=build/dev docs/make_pictures.sh
 set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
-program="$root/build/release/bin/subnode-workbench"
-models="$root/models"
+program="$root/${BUILD:-build/release}/bin/subnode-workbench"
 images="$root/docs/images"
+folder=$(mktemp -d)
+trap 'rm -rf "$folder"' EXIT
 
-# Neither the user's preferences nor their display may show in a picture.
-settings=$(mktemp -d)
-trap 'rm -rf "$settings"' EXIT
-export XDG_CONFIG_HOME="$settings" QT_QPA_PLATFORM=offscreen
+# The display and the settings of whoever runs this do not show in a picture.
+export QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8
+unset QT_SCALE_FACTOR
 
-cmake --build "$root/build/release" --target subnode-workbench
 mkdir -p "$images"
+cp "$root"/models/*.gltf "$folder"
+cd "$folder"
 
-# picture NAME OPTION... takes a picture of the robot in the graph view.
+# picture NAME FILE... [OPTION...]
 picture() {
     local name=$1
     shift
-    "$program" "$models/robot.gltf" --size 760x560 "$@" --screenshot "$images/$name.png"
-}
-repeated() {
-    for ((i = 0; i < $1; ++i)); do printf -- '--action\n%s\n' "$2"; done
+    "$program" --no-settings --size 1100x760 "$@" --screenshot "$images/$name.png"
 }
 
-"$program" "$models/robot.gltf" "$models/crane.gltf" --size 1000x700 \
-    --select Neck --select LeftEye --screenshot "$images/robot.png"
-"$program" "$models/crane.gltf" --extended --size 760x560 --screenshot "$images/extended.png"
-picture selected --select Torso --select Head
-picture hidden --select Torso --select Head --action onActionHideNodes
-picture others-hidden --select Head --action onActionHideAllOtherNodes
-picture collapsed --select Torso --action onActionCollapseAllNodes
-for corner in 0 1 2 3; do
-    picture "navigator-$corner" --action "onActionMoveWorld($corner)"
-done
-picture navigator-hidden --action onActionShowHideWorldView
-mapfile -t steps < <(repeated 22 onActionZoomOut)
-picture smallest-text "${steps[@]}" --action onActionResetPan
-mapfile -t steps < <(repeated 24 onActionZoomOut)
-picture without-text "${steps[@]}" --action onActionResetPan
-for theme in light dark; do
-    picture "tree-$theme" --size 900x640 --theme "$theme" --select Torso --select LeftHand \
-        --action onActionHideNodes --action onActionFrameSelected
-done
-picture framed --select LeftHand --action onActionFrameSelected
+picture window robot.gltf crane.gltf --select Neck --select LeftEye
+picture hidden robot.gltf --select LeftUpperArm --action onActionHideNodes \
+    --action onActionFrameSelected
+picture isolated robot.gltf --select Head --action onActionIsolate --action onActionFrameSelected
+picture every-node crane.gltf --extended
+picture filter robot.gltf --filter hand --select LeftHand \
+    --action onActionFrameSelected
+picture dark robot.gltf --theme dark --select Torso
+
+# Two models that take turns, and a third drawing that is not shown all the time.
+cat >turns.subnodes <<'SCENE'
+{
+    "format": "subnode-scene",
+    "version": 2,
+    "name": "Turns",
+    "frame": 6,
+    "models": [{ "path": "robot.gltf" }, { "path": "crane.gltf" }],
+    "nodes": [
+        {
+            "id": 1, "kind": "ELEMENT", "name": "Performer",
+            "exposures": [
+                { "first": 1, "last": 24, "model": 0 },
+                { "first": 25, "last": 48, "model": 1 },
+                { "first": 61, "last": 90, "model": 0 }
+            ]
+        },
+        {
+            "id": 2, "kind": "ELEMENT", "name": "Bystander",
+            "exposures": [{ "first": 13, "last": 60, "model": 0 }]
+        }
+    ],
+    "links": [],
+    "selection": [{ "node": 1, "subnodes": [] }]
+}
+SCENE
+picture time-line turns.subnodes

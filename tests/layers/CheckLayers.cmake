@@ -1,29 +1,64 @@
 # SPDX-License-Identifier: MIT
-# Fails when a folder includes a header of a folder that it must not know. Each layer names the
-# layers whose headers it may include by path; what is included in angle brackets is the scene
-# graph, Qt, the standard library or a generated header.
+# Fails when a folder includes a header that it must not know. Headers of the project are included
+# by path, or by name where they lie in the same folder; each layer names the folders that it may
+# take them from. What a layer may use from outside is named as well.
 cmake_minimum_required(VERSION 3.25)
 
-set(may_include_opensg "")
-set(may_include_host "host")
-set(may_include_graphview "host;graphview")
-set(may_include_subnodetree "host;subnodetree")
-set(may_include_responder "host;responder")
-set(may_include_referencehost "host;referencehost")
-set(may_include_models "models")
+set(standard "[a-z_0-9]+")
+set(qt "Q[A-Za-z0-9]+|QtCore/qglobal\\.h")
+set(scene_graph "OpenSG/OSG[A-Za-z]+\\.h")
+set(export "SubnodeViewsExport\\.h")
+
+set(opensg_folders "")
+set(opensg_outside "${standard}|${scene_graph}")
+set(host_folders "host")
+set(host_outside "${standard}|${qt}|${scene_graph}")
+foreach(view IN ITEMS graphview subnodetree responder)
+  set(${view}_folders "host;${view}")
+  set(${view}_outside "${standard}|${qt}|${scene_graph}|${export}")
+endforeach()
+set(referencehost_folders "host;referencehost")
+set(referencehost_outside "${standard}|${qt}|${scene_graph}")
+set(models_folders "models")
+set(models_outside "${standard}")
+set(all_libraries "host;graphview;subnodetree;responder;referencehost")
+set(examples_folders "${all_libraries}")
+set(examples_outside "${standard}|${qt}|${scene_graph}")
+set(workbench_folders "${all_libraries};workbench")
+set(workbench_outside "${standard}|${qt}|${scene_graph}|(sys/)?[a-z]+\\.h|assimp/.*")
+
+# Whether a header may be included: it is looked for where the compiler would.
+function(check_include layer file line result)
+  set(${result} TRUE PARENT_SCOPE)
+  if(line MATCHES "include[ \t]*\"([^\"]*)\"")
+    set(header "${CMAKE_MATCH_1}")
+    get_filename_component(folder "${file}" DIRECTORY)
+    # A way through another folder is not taken, wherever it ends.
+    if(header MATCHES "^([^/]+)/" AND CMAKE_MATCH_1 IN_LIST ${layer}_folders
+       AND NOT header MATCHES "\\.\\.")
+      return()
+    endif()
+    if(NOT header MATCHES "/" AND (header MATCHES "\\.moc$" OR EXISTS "${folder}/${header}"))
+      return()
+    endif()
+  elseif(line MATCHES "include[ \t]*<([^>]*)>")
+    if(CMAKE_MATCH_1 MATCHES "^(${${layer}_outside})$")
+      return()
+    endif()
+  endif()
+  set(${result} FALSE PARENT_SCOPE)
+endfunction()
 
 set(broken FALSE)
-foreach(layer opensg host graphview subnodetree responder referencehost models)
+foreach(layer IN ITEMS opensg host graphview subnodetree responder referencehost models examples
+                       workbench)
   file(GLOB_RECURSE files "${SOURCE_DIR}/${layer}/*.h" "${SOURCE_DIR}/${layer}/*.cpp")
   foreach(file IN LISTS files)
-    file(STRINGS "${file}" includes REGEX "^#include \"")
-    foreach(include IN LISTS includes)
-      string(REGEX REPLACE "^#include \"([^\"/]*)/?.*$" "\\1" folder "${include}")
-      if(include MATCHES "\"[^/]*\"")
-        continue()
-      endif()
-      if(NOT folder IN_LIST may_include_${layer})
-        message(SEND_ERROR "${file}: ${include} reaches out of its layer")
+    file(STRINGS "${file}" lines REGEX "^[ \t]*#[ \t]*include")
+    foreach(line IN LISTS lines)
+      check_include(${layer} "${file}" "${line}" allowed)
+      if(NOT allowed)
+        message(SEND_ERROR "${file}: ${line} reaches out of its layer")
         set(broken TRUE)
       endif()
     endforeach()

@@ -173,8 +173,8 @@ bool Isolation::isolate(MO_ElementModule& element)
     if (!element.frameOfSeqMeta(element.seqMeta(current), before.frame))
         before.frame = firstFrame;
     before.settings = settingsAt(element, before.frame);
-    const AT_ModelData next =
-        VisibilitySettings::isolated(before.settings, model->rootNodePtr(), selectedKeys(element));
+    const AT_ModelData next = VisibilitySettings::isolated(before.settings, model->rootNodePtr(),
+                                                           selectedKeys(element, *model));
     return _session.context().commandManager()->execute(
         new Step(_memory, &element, before.frame, next, before),
         QCoreApplication::translate("Isolation", "Isolate Subnodes"));
