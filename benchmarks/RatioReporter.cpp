@@ -18,7 +18,11 @@ void RatioReporter::ReportRuns(const std::vector<Run>& runs)
             constexpr double nanoseconds = 1e9;
             const auto iterations = static_cast<double>(run.iterations);
             // The best of several repetitions is the one least disturbed.
-            const double time = run.cpu_accumulated_time / iterations * nanoseconds;
+            // What is done in other processes and threads, only the clock sees.
+            const bool byTheClock = run.benchmark_name().ends_with("/real_time");
+            const double accumulated =
+                byTheClock ? run.real_accumulated_time : run.cpu_accumulated_time;
+            const double time = accumulated / iterations * nanoseconds;
             const auto [it, isNew] = _times.emplace(run.benchmark_name(), time);
             if (!isNew && time < it->second)
                 it->second = time;

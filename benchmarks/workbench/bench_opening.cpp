@@ -74,19 +74,21 @@ void openToPicture(State& state)
     }
 }
 
+void registerOne(const char* name, void (*measure)(State&))
+{
+    // The importing program has a process of its own, so only the clock sees all of it.
+    benchmark::RegisterBenchmark(name, measure)
+        ->Arg(1000)
+        ->Arg(10000)
+        ->Arg(100000)
+        ->UseRealTime()
+        ->Unit(benchmark::kMillisecond);
+}
+
 void registerAll()
 {
-    for (const auto& [name, measure] :
-         {std::pair("read_alone", readAlone), std::pair("open_to_picture", openToPicture)}) {
-        // The importing program has a process of its own, so only the clock sees all of it.
-        benchmark::RegisterBenchmark(name, measure)
-            ->Arg(1000)
-            ->Arg(10000)
-            ->Arg(100000)
-            ->UseRealTime()
-            ->MeasureProcessCPUTime()
-            ->Unit(benchmark::kMillisecond);
-    }
+    registerOne("read_alone", readAlone);
+    registerOne("open_to_picture", openToPicture);
 }
 
 } // namespace
@@ -94,6 +96,6 @@ void registerAll()
 int main(int argc, char** argv)
 {
     return runBenchmarks(argc, argv, registerAll,
-                         {ratioAim("open_to_picture/100000/process_time/real_time",
-                                   "read_alone/100000/process_time/real_time", 2.0)});
+                         {ratioAim("open_to_picture/100000/real_time",
+                                   "read_alone/100000/real_time", 2.0)});
 }

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "host/models/TD_CelVq3d.h"
 #include "referencehost/session/HostSession.h"
-#include "workbench/files/ModelLibrary.h"
-#include "workbench/files/SceneBuilder.h"
-#include "workbench/files/SceneCapture.h"
-#include "workbench/files/SceneFileReader.h"
-#include "workbench/files/SceneText.h"
+#include "workbench/scenefile/ModelLibrary.h"
+#include "workbench/scenefile/SceneBuilder.h"
+#include "workbench/scenefile/SceneCapture.h"
+#include "workbench/scenefile/SceneFileReader.h"
+#include "workbench/scenefile/SceneText.h"
 
 #include <OpenSG/OSGBaseFunctions.h>
 #include <QGuiApplication>

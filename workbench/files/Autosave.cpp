@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "workbench/files/Autosave.h"
 
-#include "workbench/files/SceneFileWriter.h"
+#include "workbench/scenefile/SceneFileWriter.h"
 
 #include <QDir>
 #include <QFile>

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "host/models/CEL_SharedPtr.h"
-#include "workbench/files/ModelLibrary.h"
 #include "workbench/modelstream/ModelImportJob.h"
+#include "workbench/scenefile/ModelLibrary.h"
 
 #include <QObject>
 #include <QStringList>

@@ -5,11 +5,11 @@
 #include "host/scene/TUSceneChangeManager.h"
 #include "referencehost/session/HostSession.h"
 #include "workbench/files/ModelLoader.h"
-#include "workbench/files/SceneBuilder.h"
-#include "workbench/files/SceneCapture.h"
-#include "workbench/files/SceneFileWriter.h"
-#include "workbench/files/SceneText.h"
 #include "workbench/modelstream/OneLine.h"
+#include "workbench/scenefile/SceneBuilder.h"
+#include "workbench/scenefile/SceneCapture.h"
+#include "workbench/scenefile/SceneFileWriter.h"
+#include "workbench/scenefile/SceneText.h"
 
 #include <QCryptographicHash>
 #include <QDir>

@@ -3,7 +3,7 @@
 
 #include "host/models/CEL_SharedPtr.h"
 #include "workbench/files/SceneChanges.h"
-#include "workbench/files/SceneFileReader.h"
+#include "workbench/scenefile/SceneFileReader.h"
 
 #include <QObject>
 #include <functional>

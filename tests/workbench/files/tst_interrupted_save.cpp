@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "FilesTesting.h"
-#include "workbench/files/SceneFileWriter.h"
+#include "workbench/scenefile/SceneFileWriter.h"
 
 #include <OpenSG/OSGBaseFunctions.h>
 #include <QTest>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "FilesTesting.h"
 #include "RandomScene.h"
-#include "workbench/files/SceneBuilder.h"
-#include "workbench/files/SceneFileWriter.h"
+#include "workbench/scenefile/SceneBuilder.h"
+#include "workbench/scenefile/SceneFileWriter.h"
 
 #include "host/models/AT_ModelData.h"
 #include "host/models/TD_CelVq3d.h"

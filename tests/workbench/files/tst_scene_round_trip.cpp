@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "FilesTesting.h"
 #include "RandomScene.h"
-#include "workbench/files/SceneBuilder.h"
-#include "workbench/files/SceneFileWriter.h"
-#include "workbench/files/SceneText.h"
+#include "workbench/scenefile/SceneBuilder.h"
+#include "workbench/scenefile/SceneFileWriter.h"
+#include "workbench/scenefile/SceneText.h"
 
 #include "host/commands/CO_CommandManager.h"
 #include "host/models/AT_ModelNodeKey.h"

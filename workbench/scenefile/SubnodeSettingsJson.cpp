@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "workbench/files/SubnodeSettingsJson.h"
+#include "workbench/scenefile/SubnodeSettingsJson.h"
 
-#include "workbench/files/JsonMembers.h"
-#include "workbench/files/SceneProblems.h"
+#include "workbench/scenefile/JsonMembers.h"
+#include "workbench/scenefile/SceneProblems.h"
 
 #include <charconv>
 #include <cmath>

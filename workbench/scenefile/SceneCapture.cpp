@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "workbench/files/SceneCapture.h"
+#include "workbench/scenefile/SceneCapture.h"
 
 #include "host/attributes/AT_StringAttr.h"
 #include "host/factories/MO_ModuleFactory.h"
@@ -14,7 +14,7 @@
 #include "host/selection/SLB_NodeInterface.h"
 #include "host/selection/SL_Selection.h"
 #include "referencehost/session/HostSession.h"
-#include "workbench/files/ModelLibrary.h"
+#include "workbench/scenefile/ModelLibrary.h"
 
 #include <QHash>
 #include <algorithm>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "workbench/files/SceneText.h"
+#include "workbench/scenefile/SceneText.h"
 
-#include "workbench/files/JsonMembers.h"
-#include "workbench/files/SceneFormat.h"
-#include "workbench/files/SubnodeSettingsJson.h"
+#include "workbench/scenefile/JsonMembers.h"
+#include "workbench/scenefile/SceneFormat.h"
+#include "workbench/scenefile/SubnodeSettingsJson.h"
 
 #include <QDir>
 #include <QJsonDocument>

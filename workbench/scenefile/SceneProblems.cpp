@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "workbench/files/SceneProblems.h"
+#include "workbench/scenefile/SceneProblems.h"
 
 #include "workbench/modelstream/OneLine.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "workbench/files/JsonMembers.h"
+#include "workbench/scenefile/JsonMembers.h"
 
-#include "workbench/files/SceneProblems.h"
+#include "workbench/scenefile/SceneProblems.h"
 
 #include <cmath>
 #include <limits>

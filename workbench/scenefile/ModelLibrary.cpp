@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "workbench/files/ModelLibrary.h"
+#include "workbench/scenefile/ModelLibrary.h"
 
 #include "host/models/TD_CelVq3d.h"
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "workbench/files/SceneFileWriter.h"
+#include "workbench/scenefile/SceneFileWriter.h"
 
-#include "workbench/files/SceneCapture.h"
-#include "workbench/files/SceneText.h"
 #include "workbench/modelstream/OneLine.h"
+#include "workbench/scenefile/SceneCapture.h"
+#include "workbench/scenefile/SceneText.h"
 
 #include <QFileInfo>
 #include <QSaveFile>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "workbench/files/SceneNodesReader.h"
+#include "workbench/scenefile/SceneNodesReader.h"
 
-#include "workbench/files/JsonMembers.h"
-#include "workbench/files/SceneFormat.h"
-#include "workbench/files/SceneProblems.h"
-#include "workbench/files/SubnodeSettingsJson.h"
+#include "workbench/scenefile/JsonMembers.h"
+#include "workbench/scenefile/SceneFormat.h"
+#include "workbench/scenefile/SceneProblems.h"
+#include "workbench/scenefile/SubnodeSettingsJson.h"
 
 #include <algorithm>
 #include <iterator>

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "workbench/files/SceneFileReader.h"
+#include "workbench/scenefile/SceneFileReader.h"
 
-#include "workbench/files/JsonMembers.h"
-#include "workbench/files/JsonSalvage.h"
-#include "workbench/files/SceneFormat.h"
-#include "workbench/files/SceneNodesReader.h"
-#include "workbench/files/SceneUpgrade.h"
+#include "workbench/scenefile/JsonMembers.h"
+#include "workbench/scenefile/JsonSalvage.h"
+#include "workbench/scenefile/SceneFormat.h"
+#include "workbench/scenefile/SceneNodesReader.h"
+#include "workbench/scenefile/SceneUpgrade.h"
 
 #include <QDir>
 #include <QJsonDocument>

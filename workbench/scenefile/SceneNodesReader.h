@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "workbench/files/SceneDescription.h"
+#include "workbench/scenefile/SceneDescription.h"
 
 #include <QCoreApplication>
 #include <QHash>

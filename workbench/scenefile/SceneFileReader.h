@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "workbench/files/SceneDescription.h"
-#include "workbench/files/SceneProblems.h"
+#include "workbench/scenefile/SceneDescription.h"
+#include "workbench/scenefile/SceneProblems.h"
 
 #include <QByteArray>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "workbench/files/JsonSalvage.h"
+#include "workbench/scenefile/JsonSalvage.h"
 
 #include <algorithm>
 

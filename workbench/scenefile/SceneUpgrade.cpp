@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "workbench/files/SceneUpgrade.h"
+#include "workbench/scenefile/SceneUpgrade.h"
 
-#include "workbench/files/SceneFormat.h"
+#include "workbench/scenefile/SceneFormat.h"
 
 #include <QHash>
 #include <QJsonArray>

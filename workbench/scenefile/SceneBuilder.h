@@ -2,7 +2,7 @@
 #pragma once
 
 #include "host/models/CEL_SharedPtr.h"
-#include "workbench/files/SceneDescription.h"
+#include "workbench/scenefile/SceneDescription.h"
 
 #include <QCoreApplication>
 #include <memory>

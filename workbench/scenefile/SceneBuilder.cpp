@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "workbench/files/SceneBuilder.h"
+#include "workbench/scenefile/SceneBuilder.h"
 
 #include "host/attributes/AT_StringAttr.h"
 #include "host/factories/MO_ModuleFactory.h"
@@ -13,8 +13,8 @@
 #include "host/selection/SLB_NodeInterface.h"
 #include "host/selection/SL_Selection.h"
 #include "referencehost/session/HostSession.h"
-#include "workbench/files/ModelLibrary.h"
-#include "workbench/files/SceneProblems.h"
+#include "workbench/scenefile/ModelLibrary.h"
+#include "workbench/scenefile/SceneProblems.h"
 
 #include <algorithm>
 
