@@ -1,54 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "ChangeLog.h"
-#include "host/scene/MO_ElementModule.h"
-#include "host/scene/MO_GroupModule.h"
-#include "host/scene/MO_KinematicOutputModule.h"
-#include "host/scene/MO_PassThroughModule.h"
-#include "host/scene/MO_PegModule.h"
-#include "host/scene/TUSceneChangeManager.h"
+#include "PortTest.h"
 
 #include <QRandomGenerator>
-#include <QRegularExpression>
-#include <QTest>
 
-using Ports = std::vector<MO_Port*>;
-
-class tst_MO_Port : public QObject
+class tst_MO_Port : public PortTest
 {
     Q_OBJECT
 
-private:
-    TUSceneChangeManager _changes;
-    std::unique_ptr<TUScene> _scene;
-
-    template <class Kind>
-    MO_Node* add(const QString& name)
-    {
-        return _scene->rootGroup()->insertNode(std::make_unique<Kind>(name));
-    }
-    MO_Node* element(const char* name) { return add<MO_ElementModule>(QString::fromLatin1(name)); }
-    MO_Node* receiver(const char* name)
-    {
-        return add<MO_KinematicOutputModule>(QString::fromLatin1(name));
-    }
-    static MO_Port* in(const MO_Node* node, int index = 0) { return node->inPort(index); }
-    static MO_Port* out(const MO_Node* node, int index = 0) { return node->outPort(index); }
-    static bool feed(const MO_Node* from, const MO_Node* to)
-    {
-        return MO_Port::link(out(from), in(to));
-    }
-
 private slots:
-    void init()
-    {
-        QTest::failOnWarning(QRegularExpression(".?"));
-        _scene = std::make_unique<TUScene>(QStringLiteral("Scene"), &_changes);
-    }
-    void cleanup()
-    {
-        _scene.reset();
-        _changes.notify();
-    }
+    void init() { openScene(); }
+    void cleanup() { closeScene(); }
 
     void belongs_to_its_node_by_direction_and_index()
     {

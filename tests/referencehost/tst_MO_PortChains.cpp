@@ -1,59 +1,16 @@
 // SPDX-License-Identifier: MIT
-#include "host/scene/MO_ElementModule.h"
-#include "host/scene/MO_GroupModule.h"
-#include "host/scene/MO_KinematicOutputModule.h"
-#include "host/scene/MO_PassThroughModule.h"
-#include "host/scene/MO_PegModule.h"
-#include "host/scene/TUSceneChangeManager.h"
+#include "PortTest.h"
 #include "host/selection/SL_Selection.h"
 #include "referencehost/commands/DeleteNodes.h"
 
-#include <QRegularExpression>
-#include <QTest>
-
-using Ports = std::vector<MO_Port*>;
-
 /// Where a value ends up that nodes pass on to each other.
-class tst_MO_PortChains : public QObject
+class tst_MO_PortChains : public PortTest
 {
     Q_OBJECT
 
-private:
-    TUSceneChangeManager _changes;
-    std::unique_ptr<TUScene> _scene;
-
-    template <class Kind>
-    MO_Node* add(const QString& name)
-    {
-        return _scene->rootGroup()->insertNode(std::make_unique<Kind>(name));
-    }
-    MO_Node* element(const char* name) { return add<MO_ElementModule>(QString::fromLatin1(name)); }
-    MO_Node* receiver(const char* name)
-    {
-        return add<MO_KinematicOutputModule>(QString::fromLatin1(name));
-    }
-    MO_Node* passThrough(const char* name)
-    {
-        return add<MO_PassThroughModule>(QString::fromLatin1(name));
-    }
-    static MO_Port* in(const MO_Node* node, int index = 0) { return node->inPort(index); }
-    static MO_Port* out(const MO_Node* node, int index = 0) { return node->outPort(index); }
-    static bool feed(const MO_Node* from, const MO_Node* to)
-    {
-        return MO_Port::link(out(from), in(to));
-    }
-
 private slots:
-    void init()
-    {
-        QTest::failOnWarning(QRegularExpression(".?"));
-        _scene = std::make_unique<TUScene>(QStringLiteral("Scene"), &_changes);
-    }
-    void cleanup()
-    {
-        _scene.reset();
-        _changes.notify();
-    }
+    void init() { openScene(); }
+    void cleanup() { closeScene(); }
 
     void looks_through_nodes_that_only_pass_on()
     {

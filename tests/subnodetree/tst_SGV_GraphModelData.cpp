@@ -1,10 +1,7 @@
 // SPDX-License-Identifier: MIT
 
-#include "host/models/TD_CelVq3d.h"
-#include "subnodetree/SGV_GraphItem.h"
-#include "subnodetree/SGV_GraphModel.h"
-#include "tests/graphview/ModelBuilder.h"
 #include "tests/subnodetree/RowsOf.h"
+#include "tests/subnodetree/ShownModel.h"
 
 #include <QIcon>
 #include <QRandomGenerator>
@@ -17,42 +14,6 @@ namespace {
 
 constexpr int propertiesRole = 33;
 constexpr int keyRole = 34;
-
-AT_ModelNodeKey keyOf(const char* name)
-{
-    return AT_ModelNodeKey(QString::fromUtf8(name));
-}
-
-/// A model together with what it shows.
-struct Shown
-{
-    explicit Shown(const CEL_SharedPtr<TD_CelVq3d>& shownCel, bool debugMode = false)
-        : cel(shownCel)
-    {
-        model.setDebugMode(debugMode);
-        model.setRootNode(cel->rootNodePtr());
-    }
-    explicit Shown(const Part& root, bool debugMode = false)
-        : Shown(ModelBuilder::model(root), debugMode)
-    {
-    }
-
-    QModelIndex find(const char* name) const { return model.findIndex(keyOf(name)); }
-    QVariant data(const char* name, int role) const { return find(name).data(role); }
-    const SGV_GraphItem* item(const char* name) const
-    {
-        return static_cast<const SGV_GraphItem*>(find(name).internalPointer());
-    }
-
-    CEL_SharedPtr<TD_CelVq3d> cel;
-    SGV_GraphModel model;
-};
-
-Part robot()
-{
-    return group("scene", {key("arm", {key("hand", {geometry("skin")}), key("pin")}),
-                           transform("base", {geometry("plate"), key("foot")})});
-}
 
 /// What every row's state must be, by the plain rule.
 void compareStates(const SGV_GraphModel& model, const QModelIndex& parent,
@@ -80,7 +41,7 @@ private slots:
 
     void properties_are_known_to_qt_by_name_once_used()
     {
-        const Shown shown(robot());
+        const ShownModel shown(armAndBase());
         const auto given = shown.data("arm", propertiesRole).value<SGV_GraphModelIndexProperties>();
         QCOMPARE(given.name, QStringLiteral("arm"));
         QVERIFY(given.detail.isEmpty());
@@ -100,7 +61,7 @@ private slots:
     {
         QCOMPARE(int(SGV_GraphModel::SubnodePropertiesRole), propertiesRole);
         QCOMPARE(int(SGV_GraphModel::SubnodeKeyRole), keyRole);
-        Shown shown(robot());
+        ShownModel shown(armAndBase());
         shown.model.setConnectionsData({{keyOf("arm"), QStringLiteral("Motor")}});
         QCOMPARE(shown.data("arm", 0), QVariant(QStringLiteral("arm*")));
         QVERIFY(!shown.data("arm", 1).value<QIcon>().isNull());
@@ -112,7 +73,7 @@ private slots:
 
     void other_roles_have_no_value()
     {
-        Shown shown(robot());
+        ShownModel shown(armAndBase());
         shown.model.setConnectionsData({{keyOf("arm"), QStringLiteral("Motor")}});
         for (int role = -1; role < 400; ++role) {
             const bool known = QList<int>{0, 1, 2, 3, 9, propertiesRole, keyRole}.contains(role);
@@ -122,14 +83,14 @@ private slots:
 
     void invalid_index_has_no_value()
     {
-        const Shown shown(robot());
+        const ShownModel shown(armAndBase());
         for (const int role : {0, 1, 2, 3, 9, propertiesRole, keyRole})
             QVERIFY(!shown.model.data(QModelIndex(), role).isValid());
     }
 
     void header_has_no_value()
     {
-        const Shown shown(robot());
+        const ShownModel shown(armAndBase());
         for (int role = 0; role < 20; ++role) {
             QVERIFY(!shown.model.headerData(0, Qt::Horizontal, role).isValid());
             QVERIFY(!shown.model.headerData(0, Qt::Vertical, role).isValid());
@@ -138,7 +99,7 @@ private slots:
 
     void key_nodes_alone_can_be_selected()
     {
-        const Shown shown(robot(), true);
+        const ShownModel shown(armAndBase(), true);
         for (const char* name : {"arm", "hand", "pin", "foot"})
             QCOMPARE(int(shown.model.flags(shown.find(name))), 33);
         for (const char* name : {"scene", "skin", "base", "plate"})
@@ -148,7 +109,7 @@ private slots:
 
     void kinds_outside_debug_mode()
     {
-        const Shown shown(robot());
+        const ShownModel shown(armAndBase());
         QCOMPARE(shown.item("arm")->kindFlags(), 2U + 4U);
         QCOMPARE(shown.item("hand")->kindFlags(), 1U + 2U + 4U);
         QCOMPARE(shown.item("pin")->kindFlags(), 2U + 4U);
@@ -156,7 +117,7 @@ private slots:
 
     void kinds_in_debug_mode()
     {
-        const Shown shown(
+        const ShownModel shown(
             group("scene", {key("hand", {geometry("skin"), coreless("bare")}), transform("base")}),
             true);
         QCOMPARE(shown.item("scene")->kindFlags(), 0U);
@@ -181,7 +142,7 @@ private slots:
     {
         QFETCH(Name, bytes);
         QFETCH(QString, name);
-        Shown shown(key(bytes));
+        ShownModel shown(key(bytes));
         const QModelIndex index = shown.model.index(0, 0);
         QCOMPARE(index.data(Qt::DisplayRole), QVariant(name));
         QCOMPARE(index.data(Qt::EditRole), QVariant(name));
@@ -195,7 +156,7 @@ private slots:
 
     void connected_subnodes_have_a_mark_and_a_tool_tip()
     {
-        Shown shown(robot());
+        ShownModel shown(armAndBase());
         QVERIFY(!shown.data("arm", Qt::ToolTipRole).isValid());
         shown.model.setConnectionsData({{keyOf("arm"), QStringLiteral("A, B")},
                                         {keyOf("hand"), QString()},
@@ -211,7 +172,7 @@ private slots:
 
     void new_connections_replace_the_old_ones()
     {
-        Shown shown(robot());
+        ShownModel shown(armAndBase());
         shown.model.setConnectionsData({{keyOf("arm"), QStringLiteral("A")}});
         SGV_GraphModel::ConnectionsData next{{keyOf("pin"), QStringLiteral("B")}};
         shown.model.setConnectionsData(next);
@@ -223,7 +184,7 @@ private slots:
 
     void equal_names_share_connections_and_state()
     {
-        Shown shown(key("a", {key("a"), key("b", {key("a")})}));
+        ShownModel shown(key("a", {key("a"), key("b", {key("a")})}));
         shown.model.setConnectionsData({{keyOf("a"), QStringLiteral("X")}});
         QCOMPARE(RowsOf::text(shown.model), QStringLiteral("a*(a* b(a*))"));
         shown.model.setVisibilityData({{keyOf("a"), SGV_GraphItem::ShapeHidden}});
@@ -233,7 +194,7 @@ private slots:
 
     void all_below_a_disabled_subnode_know_it()
     {
-        Shown shown(key("a", {key("b", {key("c")}), key("d")}));
+        ShownModel shown(key("a", {key("b", {key("c")}), key("d")}));
         shown.model.setVisibilityData(
             {{keyOf("b"), SGV_GraphItem::Disabled}, {keyOf("d"), SGV_GraphItem::ShapeHidden}});
         QVERIFY(!shown.item("a")->isAncestorDisabled());
@@ -251,7 +212,7 @@ private slots:
     {
         QRandomGenerator random(11);
         for (quint32 seed = 0; seed < 30; ++seed) {
-            Shown shown(randomModel(seed, 120), seed % 2 == 0);
+            ShownModel shown(randomModel(seed, 120), seed % 2 == 0);
             SGV_GraphModel::VisibilityData data;
             for (int part = 0; part < 12; part += 1 + random.bounded(3))
                 data[AT_ModelNodeKey(QStringLiteral("part%1").arg(part))] = random.bounded(5U);
@@ -264,7 +225,7 @@ private slots:
 
     void connections_are_lost_with_a_rebuild()
     {
-        Shown shown(robot());
+        ShownModel shown(armAndBase());
         shown.model.setConnectionsData({{keyOf("arm"), QStringLiteral("A")}});
         shown.model.setRootNode(shown.cel->rootNodePtr());
         QCOMPARE(RowsOf::text(shown.model), QStringLiteral("arm(hand pin) foot"));
@@ -272,7 +233,7 @@ private slots:
 
     void states_are_lost_with_a_rebuild()
     {
-        Shown shown(robot());
+        ShownModel shown(armAndBase());
         shown.model.setVisibilityData({{keyOf("arm"), 3U}});
         QCOMPARE(shown.item("arm")->visibilityState(), 3U);
         shown.model.setRootNode(shown.cel->rootNodePtr());

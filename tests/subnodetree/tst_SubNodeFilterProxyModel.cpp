@@ -1,10 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-#include "host/models/TD_CelVq3d.h"
-#include "subnodetree/SGV_GraphModel.h"
-#include "subnodetree/SubNodeFilterProxyModel.h"
-#include "tests/graphview/ModelBuilder.h"
-#include "tests/subnodetree/RowsOf.h"
+#include "tests/subnodetree/Filtered.h"
 
 #include <OpenSG/OSGSimpleAttachments.h>
 #include <QRandomGenerator>
@@ -109,32 +105,6 @@ CEL_SharedPtr<TD_CelVq3d> oddlyNamedModel(quint32 seed, int nodes)
     return cel;
 }
 
-/// A proxy on a model.
-struct Filtered
-{
-    Filtered() { proxy.setSourceModel(&model); }
-    explicit Filtered(const Part& root)
-        : Filtered()
-    {
-        show(ModelBuilder::model(root));
-    }
-    void show(const CEL_SharedPtr<TD_CelVq3d>& shown) { model.setRootNode(shown->rootNodePtr()); }
-    QString filter(const QString& text)
-    {
-        proxy.setFilterFixedString(text);
-        return RowsOf::text(proxy);
-    }
-
-    SGV_GraphModel model;
-    SubNodeFilterProxyModel proxy;
-};
-
-Part robot()
-{
-    return key("Body", {key("LeftArm", {key("Hand"), key("Pin")}), key("Leg", {key("Foot")}),
-                        group("g", {key("RightArm")})});
-}
-
 struct OpenProxy : SubNodeFilterProxyModel
 {
     using SubNodeFilterProxyModel::filterAcceptsRow;
@@ -151,7 +121,7 @@ private slots:
 
     void empty_filter_shows_every_row()
     {
-        Filtered filtered(robot());
+        Filtered filtered(limbs());
         const QString all = QStringLiteral("Body(LeftArm(Hand Pin) Leg(Foot) RightArm)");
         QCOMPARE(RowsOf::text(filtered.proxy), all);
         QCOMPARE(filtered.filter(QStringLiteral("none")), QString());
@@ -161,7 +131,7 @@ private slots:
 
     void match_is_shown_with_all_that_lead_to_it_and_nothing_else()
     {
-        Filtered filtered(robot());
+        Filtered filtered(limbs());
         QCOMPARE(filtered.filter(QStringLiteral("arm")), QStringLiteral("Body(LeftArm RightArm)"));
         QCOMPARE(filtered.filter(QStringLiteral("FOOT")), QStringLiteral("Body(Leg(Foot))"));
         QCOMPARE(filtered.filter(QStringLiteral("in")), QStringLiteral("Body(LeftArm(Pin))"));
@@ -190,7 +160,7 @@ private slots:
 
     void own_case_sensitivity_of_the_proxy_stays_and_makes_no_difference()
     {
-        Filtered filtered(robot());
+        Filtered filtered(limbs());
         for (const auto sensitivity : {Qt::CaseSensitive, Qt::CaseInsensitive}) {
             filtered.proxy.setFilterCaseSensitivity(sensitivity);
             QCOMPARE(filtered.filter(QStringLiteral("fOOt")), QStringLiteral("Body(Leg(Foot))"));
@@ -200,7 +170,7 @@ private slots:
 
     void filter_may_also_be_set_as_an_expression_or_by_the_base_class()
     {
-        Filtered filtered(robot());
+        Filtered filtered(limbs());
         filtered.filter(QStringLiteral("pin"));
         filtered.proxy.setFilterRegularExpression(QStringLiteral("^(foot|hand)$"));
         QCOMPARE(RowsOf::text(filtered.proxy), QStringLiteral("Body(LeftArm(Hand) Leg(Foot))"));
@@ -212,7 +182,7 @@ private slots:
 
     void change_of_the_filter_is_one_reset()
     {
-        Filtered filtered(robot());
+        Filtered filtered(limbs());
         QSignalSpy resetting(&filtered.proxy, &QAbstractItemModel::modelAboutToBeReset);
         QSignalSpy reset(&filtered.proxy, &QAbstractItemModel::modelReset);
         QSignalSpy removed(&filtered.proxy, &QAbstractItemModel::rowsRemoved);
@@ -225,7 +195,7 @@ private slots:
 
     void row_that_does_not_exist_is_rejected()
     {
-        const auto shown = model(robot());
+        const auto shown = model(limbs());
         SGV_GraphModel model;
         model.setRootNode(shown->rootNodePtr());
         OpenProxy proxy;
@@ -265,7 +235,7 @@ private slots:
     {
         Filtered filtered;
         QCOMPARE(filtered.filter(QStringLiteral("arm")), QString());
-        filtered.show(model(robot()));
+        filtered.show(model(limbs()));
         QCOMPARE(RowsOf::text(filtered.proxy), QStringLiteral("Body(LeftArm RightArm)"));
         filtered.show(model(group("g", {key("Pin"), key("ARM"), key("x", {key("arms")})})));
         QCOMPARE(RowsOf::text(filtered.proxy), QStringLiteral("ARM x(arms)"));

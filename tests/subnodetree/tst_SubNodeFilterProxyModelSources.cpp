@@ -1,10 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-#include "host/models/TD_CelVq3d.h"
-#include "subnodetree/SGV_GraphModel.h"
-#include "subnodetree/SubNodeFilterProxyModel.h"
-#include "tests/graphview/ModelBuilder.h"
-#include "tests/subnodetree/RowsOf.h"
+#include "tests/subnodetree/Filtered.h"
 
 #include <QRegularExpression>
 #include <QTest>
@@ -13,32 +9,6 @@
 using namespace ModelBuilder;
 
 namespace {
-
-/// A proxy on a model.
-struct Filtered
-{
-    Filtered() { proxy.setSourceModel(&model); }
-    explicit Filtered(const Part& root)
-        : Filtered()
-    {
-        show(ModelBuilder::model(root));
-    }
-    void show(const CEL_SharedPtr<TD_CelVq3d>& shown) { model.setRootNode(shown->rootNodePtr()); }
-    QString filter(const QString& text)
-    {
-        proxy.setFilterFixedString(text);
-        return RowsOf::text(proxy);
-    }
-
-    SGV_GraphModel model;
-    SubNodeFilterProxyModel proxy;
-};
-
-Part robot()
-{
-    return key("Body", {key("LeftArm", {key("Hand"), key("Pin")}), key("Leg", {key("Foot")}),
-                        group("g", {key("RightArm")})});
-}
 
 /// Accepts rows of one name whatever the filter, and notes which rows it is asked for.
 class Asked : public SubNodeFilterProxyModel
@@ -69,7 +39,7 @@ private slots:
 
     void source_can_be_changed_under_a_filter()
     {
-        Filtered first(robot());
+        Filtered first(limbs());
         Filtered second(key("b", {key("arm"), key("c")}));
         first.filter(QStringLiteral("arm"));
         first.proxy.setSourceModel(&second.model);
@@ -98,7 +68,7 @@ private slots:
 
     void subclass_is_asked_for_each_child()
     {
-        const auto shown = model(robot());
+        const auto shown = model(limbs());
         SGV_GraphModel model;
         model.setRootNode(shown->rootNodePtr());
         Asked proxy;
@@ -116,7 +86,7 @@ private slots:
 
     void rows_that_a_subclass_accepts_are_led_to()
     {
-        const auto shown = model(robot());
+        const auto shown = model(limbs());
         SGV_GraphModel model;
         model.setRootNode(shown->rootNodePtr());
         Asked proxy;

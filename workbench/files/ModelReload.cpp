@@ -4,12 +4,12 @@
 #include "host/models/AT_ModelNodeKey.h"
 #include "host/models/TD_CelVq3d.h"
 #include "host/scene/MO_ElementModule.h"
-#include "host/scene/MO_ModuleVisitor.h"
 #include "host/scene/SC_SessionContext.h"
 #include "host/scene/TUScene.h"
 #include "host/scene/TUSceneChangeManager.h"
 #include "host/selection/SLB_NodeInterface.h"
 #include "host/selection/SL_Selection.h"
+#include "referencehost/scene/SceneElements.h"
 #include "referencehost/session/HostSession.h"
 #include "workbench/files/ModelLoader.h"
 #include "workbench/files/SceneDocument.h"
@@ -17,23 +17,6 @@
 #include <QPointer>
 
 namespace {
-
-class AllElements : public MO_ModuleVisitor
-{
-public:
-    using MO_ModuleVisitor::visit;
-    void visit(MO_ElementModule* element) override { elements.push_back(element); }
-
-    std::vector<MO_ElementModule*> elements;
-};
-
-std::vector<MO_ElementModule*> elementsOf(const HostSession& session)
-{
-    AllElements all;
-    if (const TUScene* scene = session.currentScene())
-        scene->accept(all);
-    return all.elements;
-}
 
 /// The sub-selection of a selected element by keys, to be brought back when listeners that found
 /// parts gone have changed it.
@@ -92,7 +75,7 @@ QStringList ModelReload::filesOf(const MO_ElementModule* element) const
 QStringList ModelReload::filesOfScene() const
 {
     QStringList files;
-    for (const MO_ElementModule* element : elementsOf(_document.session()))
+    for (const MO_ElementModule* element : elementsOf(_document.session().currentScene()))
         files += filesOf(element);
     files.removeDuplicates();
     return files;
@@ -131,12 +114,12 @@ void ModelReload::exchange(const Exchange& exchange)
     const ModelLibrary& library = _document.loader().library();
     emit aboutToExchange();
     std::vector<KeptSubSelection> subSelections;
-    for (MO_ElementModule* element : elementsOf(session)) {
+    for (MO_ElementModule* element : elementsOf(session.currentScene())) {
         if (element->selected())
             subSelections.emplace_back(*element);
     }
     _document.withoutModifying([&] {
-        for (MO_ElementModule* element : elementsOf(session)) {
+        for (MO_ElementModule* element : elementsOf(session.currentScene())) {
             for (const MO_ElementModule::Exposure& exposure : element->exposures()) {
                 if (library.isFrom(exposure.model, exchange.path))
                     element->exposeModel(exposure.firstFrame, exposure.lastFrame, exchange.model);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QtGlobal>
+#include <QDataStream>
 
 /// How an imported model looks on its way from one process to another. A head of the magic bytes
 /// and the version is followed by frames: a byte for the kind, four for the length, and the
@@ -61,5 +61,12 @@ enum class Primitive : quint8
     Triangles = 4,
     Polygon = 9
 };
+
+/// Makes a stream write and read numbers as they are sent.
+inline void prepare(QDataStream& stream)
+{
+    stream.setByteOrder(QDataStream::LittleEndian);
+    stream.setFloatingPointPrecision(QDataStream::SinglePrecision);
+}
 
 } // namespace ModelStream

@@ -13,12 +13,6 @@ using namespace ModelStream;
 
 namespace {
 
-void prepare(QDataStream& stream)
-{
-    stream.setByteOrder(QDataStream::LittleEndian);
-    stream.setFloatingPointPrecision(QDataStream::SinglePrecision);
-}
-
 /// False unless the content is these numbers and nothing else.
 template <class... Numbers>
 bool unpack(const QByteArray& content, Numbers&... numbers)

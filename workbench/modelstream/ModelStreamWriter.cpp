@@ -15,12 +15,6 @@ using namespace ModelStream;
 
 namespace {
 
-void prepare(QDataStream& stream)
-{
-    stream.setByteOrder(QDataStream::LittleEndian);
-    stream.setFloatingPointPrecision(QDataStream::SinglePrecision);
-}
-
 template <class... Numbers>
 QByteArray packed(Numbers... numbers)
 {

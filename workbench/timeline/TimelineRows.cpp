@@ -1,33 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "workbench/timeline/TimelineRows.h"
 
-#include "host/scene/MO_ModuleVisitor.h"
 #include "host/scene/SC_SessionContext.h"
 #include "host/scene/TUScene.h"
 #include "host/scene/TUSceneChangeManager.h"
+#include "referencehost/scene/SceneElements.h"
 #include "referencehost/session/HostSession.h"
 
 #include <algorithm>
-#include <functional>
-
-namespace {
-
-class ElementVisitor : public MO_ModuleVisitor
-{
-public:
-    explicit ElementVisitor(std::function<void(MO_ElementModule&)> take)
-        : _take(std::move(take))
-    {
-    }
-
-    using MO_ModuleVisitor::visit;
-    void visit(MO_ElementModule* element) override { _take(*element); }
-
-private:
-    std::function<void(MO_ElementModule&)> _take;
-};
-
-} // namespace
 
 TimelineRows::TimelineRows(HostSession& session, QObject* parent)
     : QObject(parent)
@@ -65,12 +45,9 @@ void TimelineRows::rebuild()
 {
     _rows.clear();
     _rowOfNode.clear();
-    if (const TUScene* scene = _session.currentScene()) {
-        ElementVisitor visitor([this](MO_ElementModule& element) {
-            _rowOfNode.insert(&element, count());
-            _rows.push_back({&element, element.displayName(), element.exposures()});
-        });
-        scene->accept(visitor);
+    for (MO_ElementModule* element : elementsOf(_session.currentScene())) {
+        _rowOfNode.insert(element, count());
+        _rows.push_back({element, element->displayName(), element->exposures()});
     }
     findLastFrame();
     emit changed();
