@@ -16,7 +16,7 @@ arguments=("$@")
 # Where the arguments already ask for output of their own, that is enough.
 if [[ -z ${DISPLAY:-}${WAYLAND_DISPLAY:-}${QT_QPA_PLATFORM:-} ]]; then
     export QT_QPA_PLATFORM=offscreen
-    if [[ ! " ${arguments[*]} " =~ \ --(screenshot|dump|help|version|formats)[=\ ] ]]; then
+    if [[ ! " ${arguments[*]} " =~ \ --(screenshot|dump|save|quit|help|version|formats)[=\ ] ]]; then
         echo "No display: rendering the window off screen into workbench.png" >&2
         arguments+=(--screenshot workbench.png)
     fi

@@ -36,6 +36,7 @@ public:
                                               SLB_NodeInterface* selected);
 };
 
+/// Finds out how a selected node is to be changed.
 class HOST_EXPORT TD_Transformation3dUtil
 {
 public:

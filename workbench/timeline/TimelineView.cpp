@@ -158,10 +158,18 @@ void TimelineView::followRows()
     viewport()->update();
 }
 
+void TimelineView::showEvent(QShowEvent* event)
+{
+    QAbstractScrollArea::showEvent(event);
+    showFrame(SceneFrame::current(_session));
+}
+
 void TimelineView::followFrame()
 {
     updateBars();
-    showFrame(SceneFrame::current(_session));
+    // Before it is shown, the view does not know how much of the frames it will show.
+    if (isVisible())
+        showFrame(SceneFrame::current(_session));
     viewport()->update();
 }
 
