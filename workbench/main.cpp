@@ -6,6 +6,7 @@
 #include "workbench/batch/BatchRun.h"
 #include "workbench/batch/CommandLine.h"
 #include "workbench/import/ModelImporter.h"
+#include "workbench/language/Translations.h"
 #include "workbench/preferences/PreferencesDialog.h"
 #include "workbench/preferences/ThemeSwitch.h"
 #include "workbench/window/FileActions.h"
@@ -46,6 +47,20 @@ void choosePlatform(const CommandLine& commandLine)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     if (qgetenv("QT_QPA_PLATFORM") == "offscreen")
         qInstallMessageHandler(dropRemarks);
+}
+
+/// What is wrong, and the help, are said in the user's language, and that takes an application. The
+/// real one comes later: the command line decides about its platform.
+CommandLine::Outcome parsed(const QStringList& arguments)
+{
+    char name[] = "subnode-workbench";
+    char* nameAlone[] = {name, nullptr};
+    int count = 1;
+    const QtMessageHandler before = qInstallMessageHandler(dropRemarks);
+    const QCoreApplication application(count, nameAlone);
+    qInstallMessageHandler(before);
+    const Translations translations;
+    return CommandLine::parse(arguments);
 }
 
 void printFormats()
@@ -119,7 +134,8 @@ int doWork(const CommandLine& commandLine, HostSession& session, WorkbenchWindow
 int run(const CommandLine& commandLine)
 {
     HostSession session;
-    session.openScene(QApplication::translate("main", "Untitled"));
+    // Kept in scene files, which are the same in every language, and shown nowhere.
+    session.openScene(QStringLiteral("Untitled"));
     const ThemeSwitch theme(ThemeSwitch::fromName(commandLine.theme));
 
     WindowOptions options;
@@ -154,7 +170,7 @@ int run(const CommandLine& commandLine)
 
 int main(int argc, char** argv)
 {
-    const CommandLine::Outcome outcome = CommandLine::parse(argumentsOf(argc, argv));
+    const CommandLine::Outcome outcome = parsed(argumentsOf(argc, argv));
     if (!outcome.commandLine) {
         if (outcome.isError) {
             printError(outcome.text);
@@ -176,6 +192,7 @@ int main(int argc, char** argv)
     QApplication::setApplicationName(QStringLiteral("subnode-workbench"));
     QApplication::setOrganizationName(QStringLiteral("subnode-views"));
     QApplication::setApplicationVersion(QStringLiteral(SUBNODEVIEWS_VERSION));
+    const Translations translations;
     osg::osgInit(argc, argv);
     const int code = run(*outcome.commandLine);
     osg::osgExit();

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "referencehost/actions/ActionDefinitions.h"
 
-#include <QCoreApplication>
 #include <algorithm>
 
 namespace {
@@ -13,15 +12,8 @@ QString attribute(const QDomElement& element, const char* name)
 
 bool fail(const QDomElement& element, const QString& what, QString& error)
 {
-    error = QCoreApplication::translate("ActionDefinitions", "Line %1: %2")
-                .arg(element.lineNumber())
-                .arg(what);
+    error = ActionDefinitions::tr("Line %1: %2").arg(element.lineNumber()).arg(what);
     return false;
-}
-
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("ActionDefinitions", text);
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QCoreApplication>
 #include <QDomDocument>
 #include <QHash>
 #include <QKeySequence>
@@ -37,6 +38,8 @@ struct ActionDefinition
 /// view has, such as selecting all, is for the responder "*": whichever last had the focus.
 class ActionDefinitions
 {
+    Q_DECLARE_TR_FUNCTIONS(ActionDefinitions)
+
 public:
     /// Adds what the text declares. On failure nothing is added, and the error says what is wrong
     /// and in which line.

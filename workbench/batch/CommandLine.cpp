@@ -12,33 +12,36 @@ namespace {
 
 struct Options
 {
+    Q_DECLARE_TR_FUNCTIONS(CommandLine)
+
+public:
     QCommandLineOption help{{"h", "help"}, tr("Shows this help.")};
     QCommandLineOption version{{"v", "version"}, tr("Shows the version.")};
     QCommandLineOption formats{"formats", tr("Lists the model formats that can be opened.")};
-    QCommandLineOption frame{"frame", tr("The current frame; the first one is 1."), "N"};
+    QCommandLineOption frame{"frame", tr("The current frame; the first one is 1."), tr("N")};
     QCommandLineOption extended{"extended",
                                 tr("Shows every scene-graph node, not the subnodes alone.")};
     QCommandLineOption filter{
         "filter", tr("Shows only subnodes whose name contains TEXT, and what leads to them."),
-        "TEXT"};
+        tr("TEXT")};
     QCommandLineOption select{
-        "select", tr("Selects the subnode NAME of the selected model; can be repeated."), "NAME"};
+        "select", tr("Selects the subnode NAME of the selected model; can be repeated."),
+        tr("NAME")};
     QCommandLineOption action{
         "action", tr("Performs the action NAME, as menus do, after selecting; can be repeated."),
-        "NAME"};
+        tr("NAME")};
     QCommandLineOption dump{
-        "dump", tr("Prints the subnodes of every model; FORMAT is text or json."), "FORMAT"};
+        "dump", tr("Prints the subnodes of every model; FORMAT is text or json."), tr("FORMAT")};
     QCommandLineOption screenshot{"screenshot", tr("Saves a picture of the window as FILE."),
-                                  "FILE"};
-    QCommandLineOption size{"size", tr("The size of the window, in pixels."), "WxH"};
-    QCommandLineOption save{"save", tr("Saves the scene as FILE in the end."), "FILE"};
+                                  tr("FILE")};
+    QCommandLineOption size{"size", tr("The size of the window, in pixels."), tr("WxH")};
+    QCommandLineOption save{"save", tr("Saves the scene as FILE in the end."), tr("FILE")};
     QCommandLineOption quit{"quit", tr("Ends when all is done, without waiting for a user.")};
     QCommandLineOption watch{"watch", tr("Reads a model again when its file changes.")};
-    QCommandLineOption theme{"theme", tr("How the window looks: light, dark or system."), "NAME"};
+    QCommandLineOption theme{"theme", tr("How the window looks: light, dark or system."),
+                             tr("NAME")};
     QCommandLineOption noSettings{
         "no-settings", tr("Neither reads nor writes preferences, layout and recent files.")};
-
-    static QString tr(const char* text) { return QCoreApplication::translate("CommandLine", text); }
 
     void addTo(QCommandLineParser& parser) const
     {
@@ -46,10 +49,10 @@ struct Options
             tr("Shows the inner hierarchy of 3D models and works on their parts."));
         parser.addOptions({help, version, formats, frame, extended, filter, select, action, dump,
                            screenshot, size, save, quit, watch, theme, noSettings});
-        parser.addPositionalArgument("FILE",
+        parser.addPositionalArgument(tr("FILE"),
                                      tr("A scene, or a model, whose element is named after the "
                                         "file. The first model is selected."),
-                                     "[FILE...]");
+                                     tr("[FILE...]"));
     }
 };
 
@@ -68,6 +71,13 @@ std::optional<QSize> parsedSize(const QString& text)
     if (size.isEmpty() || size.width() > largest || size.height() > largest)
         return std::nullopt;
     return size;
+}
+
+/// Qt leaves out the end of the last line where that was wrapped at certain places.
+QString helpOf(const QCommandLineParser& parser)
+{
+    const QString text = parser.helpText();
+    return text.endsWith(u'\n') ? text : text + u'\n';
 }
 
 /// What is wrong with the values that need more than their presence; empty when nothing is.
@@ -116,7 +126,7 @@ CommandLine::Outcome CommandLine::parse(const QStringList& arguments)
     if (!parser.parse(arguments))
         return failure(parser.errorText());
     if (parser.isSet(options.help))
-        return {std::nullopt, parser.helpText(), false};
+        return {std::nullopt, helpOf(parser), false};
     if (parser.isSet(options.version))
         return {std::nullopt, QStringLiteral("subnode-workbench " SUBNODEVIEWS_VERSION "\n"),
                 false};

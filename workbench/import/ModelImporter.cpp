@@ -7,7 +7,6 @@
 #include "workbench/modelstream/ImportProgress.h"
 
 #include <OpenSG/OSGNode.h>
-#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <QMap>
@@ -22,35 +21,30 @@ namespace {
 
 constexpr double readingEnds = 0.8;
 
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("ModelImporter", text);
-}
-
 /// Why the file need not even be handed to a reader; empty if it can be. Readers report these
 /// cases poorly, and opening a pipe would block them.
 QString whyNotReadable(const QString& path)
 {
     const QFileInfo info(path);
     if (path.isEmpty())
-        return tr("no file was given");
+        return ModelImporter::tr("no file was given");
     if (!info.exists())
-        return tr("there is no such file");
+        return ModelImporter::tr("there is no such file");
     if (info.isDir())
-        return tr("this is a folder, not a file");
+        return ModelImporter::tr("this is a folder, not a file");
     if (!info.isFile())
-        return tr("this is not a regular file");
+        return ModelImporter::tr("this is not a regular file");
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        return tr("the file cannot be opened: %1").arg(file.errorString());
+        return ModelImporter::tr("the file cannot be opened: %1").arg(file.errorString());
     if (info.size() == 0)
-        return tr("the file is empty");
+        return ModelImporter::tr("the file is empty");
     return {};
 }
 
 QString emptyReason()
 {
-    return tr("the file holds no model: it has no nodes and no meshes");
+    return ModelImporter::tr("the file holds no model: it has no nodes and no meshes");
 }
 
 QString readersReason(const AssimpReader& reader)
@@ -59,10 +53,10 @@ QString readersReason(const AssimpReader& reader)
     if (reader.error().isEmpty())
         return emptyReason();
     if (reader.isUnknownKind())
-        return tr("the file is of an unknown kind");
+        return ModelImporter::tr("the file is of an unknown kind");
     if (reader.error().contains(QLatin1String("bad_alloc")))
-        return tr("there is not enough memory to read the file");
-    return tr("the file cannot be read as a model: %1").arg(reader.error());
+        return ModelImporter::tr("there is not enough memory to read the file");
+    return ModelImporter::tr("the file cannot be read as a model: %1").arg(reader.error());
 }
 
 ImportResult importOnDeepStack(const QString& path, ImportProgress* progress)
@@ -101,11 +95,11 @@ ImportResult importSafely(const QString& path, ImportProgress* progress)
     } catch (const std::bad_alloc&) {
         return ImportResult::outOfMemory(path);
     } catch (const std::exception& exception) {
-        return ImportResult::failure(
-            path,
-            tr("the file cannot be read as a model: %1").arg(QString::fromUtf8(exception.what())));
+        return ImportResult::failure(path,
+                                     ModelImporter::tr("the file cannot be read as a model: %1")
+                                         .arg(QString::fromUtf8(exception.what())));
     } catch (...) {
-        return ImportResult::failure(path, tr("the file cannot be read as a model"));
+        return ImportResult::failure(path, ModelImporter::tr("the file cannot be read as a model"));
     }
 }
 

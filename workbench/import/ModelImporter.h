@@ -3,6 +3,7 @@
 
 #include "workbench/modelstream/ImportResult.h"
 
+#include <QCoreApplication>
 #include <QList>
 
 class ImportProgress;
@@ -23,6 +24,8 @@ struct ModelFormat
 /// the reading library itself needs a process of its own around the call.
 class ModelImporter
 {
+    Q_DECLARE_TR_FUNCTIONS(ModelImporter)
+
 public:
     /// Blocks until the file is read; any thread may call it once osgInit() has been called. A
     /// path that is empty, or names no file, a folder, something that is not a regular file, or a

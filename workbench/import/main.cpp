@@ -2,12 +2,14 @@
 
 #include "workbench/import/ImportConfinement.h"
 #include "workbench/import/ModelImporter.h"
+#include "workbench/language/Translations.h"
 #include "workbench/modelstream/ImportExit.h"
 #include "workbench/modelstream/ImportProgress.h"
 #include "workbench/modelstream/ModelStreamWriter.h"
 
 #include <OpenSG/OSGBaseFunctions.h>
 #include <QCommandLineParser>
+#include <QCoreApplication>
 #include <QFile>
 #include <cstdio>
 #include <fcntl.h>
@@ -94,6 +96,9 @@ int main(int argc, char** argv)
         std::fputs("usage: subnode-import --memory BYTES --seconds SECONDS [--] FILE\n", stderr);
         return ImportMisused;
     }
+    // The answer is for the user to read. The files of the language are out of reach later on.
+    const QCoreApplication application(argc, argv);
+    const Translations translations;
     osg::osgInit(argc, argv);
     const int answer = takeStandardOutput();
     QFile output;

@@ -4,7 +4,6 @@
 #include "workbench/modelstream/ImportExit.h"
 #include "workbench/modelstream/ImportProgress.h"
 
-#include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QFileInfo>
 #include <csignal>
@@ -15,20 +14,16 @@ namespace {
 /// How long a request to cancel may go unnoticed.
 constexpr int patienceInMilliseconds = 20;
 
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("ImportProcess", text);
-}
-
 ImportResult outOfTime(const QString& path, int seconds)
 {
-    return ImportResult::failure(path,
-                                 tr("reading the file took longer than %1 seconds").arg(seconds));
+    return ImportResult::failure(
+        path, ImportProcess::tr("reading the file took longer than %1 seconds").arg(seconds));
 }
 
 ImportResult damaged(const QString& path)
 {
-    return ImportResult::failure(path, tr("the importer gave an answer that makes no sense"));
+    return ImportResult::failure(
+        path, ImportProcess::tr("the importer gave an answer that makes no sense"));
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 #include "workbench/modelstream/ImportResult.h"
 #include "workbench/modelstream/ModelStreamReader.h"
 
+#include <QCoreApplication>
 #include <QProcess>
 
 class ImportProgress;
@@ -14,6 +15,8 @@ class ImportProgress;
 /// thread, which need not have an event loop.
 class ImportProcess
 {
+    Q_DECLARE_TR_FUNCTIONS(ImportProcess)
+
 public:
     /// The progress may be null and must outlive this object.
     ImportProcess(QString program, const ImportLimits& limits, ImportProgress* progress);

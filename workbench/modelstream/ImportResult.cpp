@@ -9,16 +9,13 @@ namespace {
 
 constexpr int reasonLimit = 200;
 
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("ImportResult", text);
-}
-
 } // namespace
 
 QString ImportResult::errorStart(const QString& path)
 {
-    return (path.isEmpty() ? tr("(no file name)") : oneLine(path)) + QLatin1String(": ");
+    return (path.isEmpty() ? QCoreApplication::translate("ImportResult", "(no file name)")
+                           : oneLine(path)) +
+           QLatin1String(": ");
 }
 
 ImportResult ImportResult::failure(const QString& path, const QString& reason)
@@ -30,12 +27,14 @@ ImportResult ImportResult::failure(const QString& path, const QString& reason)
 
 ImportResult ImportResult::outOfMemory(const QString& path)
 {
-    return failure(path, tr("there is not enough memory to read the file"));
+    return failure(path, QCoreApplication::translate(
+                             "ImportResult", "there is not enough memory to read the file"));
 }
 
 ImportResult ImportResult::cancellation(const QString& path)
 {
-    ImportResult result = failure(path, tr("the import was cancelled"));
+    ImportResult result =
+        failure(path, QCoreApplication::translate("ImportResult", "the import was cancelled"));
     result.cancelled = true;
     return result;
 }

@@ -29,7 +29,8 @@ QString spokenName(const PreferenceKey& key)
     name.remove(u'&');
     if (name.endsWith(u':'))
         name.chop(1);
-    return name;
+    // Some languages have a space before the colon.
+    return name.trimmed();
 }
 
 } // namespace

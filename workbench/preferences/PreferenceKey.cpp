@@ -19,19 +19,21 @@ PreferenceKey colour(const char* key, unsigned int rgba, const QString& label)
 
 std::vector<PreferenceKey> graphViewColours()
 {
-    using K = PreferenceKey;
     return {
-        colour("ST_3DNODEVIEW_TEXT_COLOR", 0xff000000, K::tr("&Text:")),
-        colour("ST_3DNODEVIEW_SELECTED_TEXT_COLOR", 0xff000000, K::tr("Text, s&elected:")),
-        colour("ST_3DNODEVIEW_NODE_COLOR", 0xff455aa3, K::tr("&Node:")),
-        colour("ST_3DNODEVIEW_SELECTED_NODE_COLOR", 0xff5a9bf0, K::tr("Node, &selected:")),
-        colour("ST_3DNODEVIEW_HIDDEN_NODE_COLOR", 0xff648687, K::tr("&Hidden node:")),
+        colour("ST_3DNODEVIEW_TEXT_COLOR", 0xff000000, PreferenceKey::tr("&Text:")),
+        colour("ST_3DNODEVIEW_SELECTED_TEXT_COLOR", 0xff000000,
+               PreferenceKey::tr("Text, s&elected:")),
+        colour("ST_3DNODEVIEW_NODE_COLOR", 0xff455aa3, PreferenceKey::tr("&Node:")),
+        colour("ST_3DNODEVIEW_SELECTED_NODE_COLOR", 0xff5a9bf0,
+               PreferenceKey::tr("Node, &selected:")),
+        colour("ST_3DNODEVIEW_HIDDEN_NODE_COLOR", 0xff648687, PreferenceKey::tr("&Hidden node:")),
         colour("ST_3DNODEVIEW_SELECTED_HIDDEN_NODE_COLOR", 0xff8dbdb4,
-               K::tr("H&idden node, selected:")),
+               PreferenceKey::tr("H&idden node, selected:")),
         colour("ST_3DNODEVIEW_NONEDITABLE_NODE_COLOR", 0xffa8a8a8,
-               K::tr("Node that cannot be &acted on:")),
-        colour("ST_3DNODEVIEW_NETWORK_COLOR", 0xffffffff, K::tr("&Lines between nodes:")),
-        colour("ST_3DNODEVIEW_BACKGROUND_COLOR", 0xff787878, K::tr("&Background:")),
+               PreferenceKey::tr("Node that cannot be &acted on:")),
+        colour("ST_3DNODEVIEW_NETWORK_COLOR", 0xffffffff,
+               PreferenceKey::tr("&Lines between nodes:")),
+        colour("ST_3DNODEVIEW_BACKGROUND_COLOR", 0xff787878, PreferenceKey::tr("&Background:")),
     };
 }
 
@@ -40,14 +42,15 @@ std::vector<PreferenceKey> graphView()
     using K = PreferenceKey;
     return {
         {QStringLiteral("ST_3DNODEVIEW_FONT"), K::Font, K::GraphView, QStringLiteral("Courier"),
-         K::tr("&Font:")},
+         PreferenceKey::tr("&Font:")},
         {QStringLiteral("WHEEL_ZOOM_THRESHOLD"),
          K::Integer,
          K::GraphView,
          defaultWheelThreshold,
-         K::tr("&Wheel threshold:"),
-         K::tr("How far the wheel turns before it zooms; a notch is 120.\nTakes effect at the next "
-               "start."),
+         PreferenceKey::tr("&Wheel threshold:"),
+         PreferenceKey::tr(
+             "How far the wheel turns before it zooms; a notch is 120.\nTakes effect at the next "
+             "start."),
          {},
          0,
          largestWheelThreshold},
@@ -55,14 +58,16 @@ std::vector<PreferenceKey> graphView()
          K::Choice,
          K::GraphView,
          bottomRightCorner,
-         K::tr("&Navigator:"),
-         K::tr("Where the navigator is in graph views that are opened from now on."),
-         {K::tr("Top Left"), K::tr("Top Right"), K::tr("Bottom Left"), K::tr("Bottom Right")}},
+         PreferenceKey::tr("&Navigator:"),
+         PreferenceKey::tr("Where the navigator is in graph views that are opened from now on."),
+         {PreferenceKey::tr("Top Left"), PreferenceKey::tr("Top Right"),
+          PreferenceKey::tr("Bottom Left"), PreferenceKey::tr("Bottom Right")}},
         {QStringLiteral("GV_WORLD_VIEW_STARTING_STATE"), K::Switch, K::GraphView, true,
-         K::tr("&Show the navigator"), K::tr("In graph views that are opened from now on.")},
+         PreferenceKey::tr("&Show the navigator"),
+         PreferenceKey::tr("In graph views that are opened from now on.")},
         {QStringLiteral("GV_EXTENDED_DISPLAY"), K::Switch, K::GraphView, false,
-         K::tr("Show &every node of the scene graph"),
-         K::tr("In graph views that are opened from now on.")},
+         PreferenceKey::tr("Show &every node of the scene graph"),
+         PreferenceKey::tr("In graph views that are opened from now on.")},
     };
 }
 
@@ -73,9 +78,10 @@ std::vector<PreferenceKey> appearance()
              K::Choice,
              K::Appearance,
              0,
-             K::tr("&Theme:"),
+             PreferenceKey::tr("&Theme:"),
              {},
-             {K::tr("Like the System"), K::tr("Light"), K::tr("Dark")}}};
+             {PreferenceKey::tr("Like the System"), PreferenceKey::tr("Light"),
+              PreferenceKey::tr("Dark")}}};
 }
 
 } // namespace

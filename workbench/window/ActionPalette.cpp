@@ -19,7 +19,7 @@
 namespace {
 
 constexpr int actionRole = Qt::UserRole;
-constexpr QSize initialSize(520, 380);
+constexpr QSize initialSize(700, 380);
 
 QString plain(const QString& text)
 {
