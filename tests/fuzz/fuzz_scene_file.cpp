@@ -22,6 +22,8 @@ struct Process
 {
     Process() { osg::osgInit(0, nullptr); }
 
+    // Nothing is shown, wherever the fuzzer runs.
+    bool isOffScreen = qputenv("QT_QPA_PLATFORM", "offscreen");
     int count = 1;
     char name[5] = "fuzz";
     char* arguments[2] = {name, nullptr};

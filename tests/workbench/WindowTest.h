@@ -4,6 +4,7 @@
 #include "graphview/GV_GraphUiInfo.h"
 #include "graphview/GV_GraphXViewCtrl.h"
 #include "graphview/GV_GraphXViewQt.h"
+#include "host/actions/AC_Manager.h"
 #include "host/models/AT_ModelData.h"
 #include "host/preferences/PR_Preference.h"
 #include "host/scene/MO_ElementModule.h"
@@ -56,6 +57,7 @@ protected:
         open({QStringLiteral(MODELS "/robot.gltf")});
         _robot = element(0);
         QVERIFY(_robot);
+        context().actionManager()->validateActions();
     }
 
     /// Opens the files and waits until all are open.
@@ -92,6 +94,8 @@ protected:
     static QStringList subSelected(const MO_ElementModule& element)
     {
         QStringList names;
+        if (!element.selInterface())
+            return names;
         for (const int id : element.selInterface()->subSelectedIds()) {
             AT_ModelNodeKey key;
             if (element.getNodeKeyForSelId(id, key))
@@ -129,7 +133,16 @@ protected:
     }
     void key(Qt::Key key, Qt::KeyboardModifiers held = Qt::NoModifier)
     {
+        // Off screen, nobody gives the keys back when a dialog is closed.
+        _window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(_window.get()));
         QTest::keyClick(_window->windowHandle(), key, held);
+    }
+    /// To whatever has the focus in the window; only ASCII.
+    static void typeInto(QWindow* window, const QString& text)
+    {
+        for (const QChar letter : text)
+            QTest::keyClick(window, letter.toLatin1());
     }
     QMenu* menu(const QString& title)
     {

@@ -78,9 +78,8 @@ private slots:
 
     void menus_are_complete()
     {
-        QCOMPARE(
-            textsOf(_window->menuBar()->actions()),
-            (QStringList{"File", "Edit", "View", "Subnodes", "Playback", "Window", "Help"}));
+        QCOMPARE(textsOf(_window->menuBar()->actions()),
+                 (QStringList{"File", "Edit", "View", "Subnodes", "Playback", "Window", "Help"}));
         QCOMPARE(textsOf(menu("File")->actions()),
                  (QStringList{"New Scene", "Open...", "Open Recent", "Reload Models",
                               "Reload When Files Change", "-", "Save", "Save As...", "-", "Quit"}));
@@ -97,7 +96,7 @@ private slots:
                  textsOf(_window->timeline().transport().transportActions()));
         QCOMPARE(textsOf(menu("Window")->actions()),
                  (QStringList{"New Graph View", "-", "Scene", "Subnode Tree", "Graph View",
-                              "Time Line", "History", "Log", "-", "Reset Layout"}));
+                              "Timeline", "History", "Log", "-", "Reset Layout"}));
         QCOMPARE(textsOf(menu("Help")->actions()), (QStringList{"Find Action...", "About Qt"}));
         context().actionManager()->validateActions();
         QCOMPARE(textsOf(menu("View")->actions()),

@@ -3,6 +3,7 @@
 #include "workbench/views/EmptyState.h"
 
 #include <QEvent>
+#include <QMouseEvent>
 #include <algorithm>
 #include <utility>
 
@@ -13,8 +14,8 @@ constexpr int padding = 12;
 
 } // namespace
 
-EmptyState::EmptyState(QWidget* over, Text text)
-    : QLabel(over)
+EmptyState::EmptyState(QWidget* viewport, Text text)
+    : QLabel(viewport)
     , _currentText(std::move(text))
 {
     setObjectName(QStringLiteral("EmptyState"));
@@ -22,7 +23,9 @@ EmptyState::EmptyState(QWidget* over, Text text)
     setWordWrap(true);
     setMargin(padding);
     setTextFormat(Qt::RichText);
-    over->installEventFilter(this);
+    viewport->installEventFilter(this);
+    connect(this, &QLabel::linkHovered, this,
+            [this](const QString& link) { _isOverLink = !link.isEmpty(); });
     refresh();
 }
 
@@ -42,6 +45,21 @@ bool EmptyState::eventFilter(QObject* watched, QEvent* event)
     if (event->type() == QEvent::Resize || event->type() == QEvent::Show)
         place();
     return QLabel::eventFilter(watched, event);
+}
+
+/// A view that hears of a press waits for the release, which a label would keep to itself.
+void EmptyState::mousePressEvent(QMouseEvent* event)
+{
+    QLabel::mousePressEvent(event);
+    _isPressed = _isOverLink;
+    event->setAccepted(_isPressed);
+}
+
+void EmptyState::mouseReleaseEvent(QMouseEvent* event)
+{
+    const bool isOwn = std::exchange(_isPressed, false);
+    QLabel::mouseReleaseEvent(event);
+    event->setAccepted(isOwn);
 }
 
 void EmptyState::place()

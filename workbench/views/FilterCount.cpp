@@ -48,7 +48,7 @@ void FilterCount::refresh()
     if (all == 0)
         clear();
     else if (_view.filterField()->text().isEmpty())
-        setText(tr("%n subnode(s)", nullptr, static_cast<int>(all)));
+        setText(tr("Subnodes: %1").arg(locale.toString(all)));
     else
         setText(
             tr("%1 of %2").arg(locale.toString(rowsOf(*_view.proxyModel())), locale.toString(all)));

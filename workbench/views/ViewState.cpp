@@ -53,16 +53,13 @@ GraphViewState::GraphViewState(const GV_GraphXViewQt& view)
 void GraphViewState::restore(GV_GraphXViewQt& view) const
 {
     GV_GraphUiInfo* graph = view.controller()->uiInfo();
-    bool changed = false;
-    GV_TreeWalk walk(graph->rootUiNode());
-    while (GV_UiNode* node = walk.next()) {
-        const bool collapsed = node->isSgNode() && _collapsed.contains(node->name());
-        changed = changed || node->isCollapsed() != collapsed;
-        node->setCollapsed(collapsed);
-    }
-    if (!changed)
-        return;
     view.prepareGeometryChange();
+    // The graph keeps the tree of an element for as long as that has one, whatever it shows.
+    graph->clearUiNodeGraph();
+    view.onSelectionChanged();
+    GV_TreeWalk walk(graph->rootUiNode());
+    while (GV_UiNode* node = walk.next())
+        node->setCollapsed(node->isSgNode() && _collapsed.contains(node->name()));
     graph->calculateGeometricData();
     view.updateNavigatorMatrix();
     view.refreshView();
@@ -74,8 +71,8 @@ TreeViewState::TreeViewState(const SGV_Graph3DView& view)
 {
     const QTreeView& tree = *view.treeView();
     forEachBranch(*view.proxyModel(), [&](const QModelIndex& index) {
-        if (tree.isExpanded(index))
-            _expanded.insert(keyOf(index));
+        if (!tree.isExpanded(index))
+            _collapsed.insert(keyOf(index));
     });
 }
 
@@ -84,7 +81,7 @@ void TreeViewState::restore(SGV_Graph3DView& view) const
     QTreeView& tree = *view.treeView();
     std::vector<QModelIndex> folded;
     forEachBranch(*view.proxyModel(), [&](const QModelIndex& index) {
-        if (!_expanded.contains(keyOf(index)))
+        if (_collapsed.contains(keyOf(index)))
             folded.push_back(index);
     });
     tree.expandAll();

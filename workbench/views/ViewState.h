@@ -13,15 +13,15 @@ class GraphViewState
 {
 public:
     explicit GraphViewState(const GV_GraphXViewQt& view);
-    /// Folds what was folded and is still there; what is new stays unfolded.
+    /// Builds the tree anew and folds in it what was folded; what is new stays unfolded.
     void restore(GV_GraphXViewQt& view) const;
 
 private:
     QSet<QString> _collapsed;
 };
 
-/// The same for a subnode tree: which rows were expanded, which one was current, and how far the
-/// list was scrolled.
+/// The same for a subnode tree: which rows were folded, which one was current, and how far the list
+/// was scrolled.
 class TreeViewState
 {
 public:
@@ -29,7 +29,7 @@ public:
     void restore(SGV_Graph3DView& view) const;
 
 private:
-    QSet<QString> _expanded;
+    QSet<QString> _collapsed;
     QString _current;
     int _scrolled = 0;
 };

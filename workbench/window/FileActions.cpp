@@ -6,8 +6,8 @@
 #include "host/scene/MO_ElementModule.h"
 #include "subnodetree/SGV_Graph3DView.h"
 #include "workbench/files/ModelLoader.h"
-#include "workbench/files/SceneFormat.h"
 #include "workbench/import/ModelImporter.h"
+#include "workbench/scenefile/SceneFormat.h"
 
 #include <QFileDialog>
 #include <QFileInfo>
@@ -62,6 +62,8 @@ FileActions::FileActions(HostSession& session, ModelLoader& loader, QSettings* s
     connect(&_document, &SceneDocument::openFinished, this, &FileActions::finishScene);
     connect(&_loader, &ModelLoader::failed, this, &FileActions::problem);
     connect(&_loader, &ModelLoader::loaded, this, [this](const MO_ElementModule* element) {
+        for (const MO_ElementModule::Exposure& exposure : element->exposures())
+            _recent.add(_loader.library().originOf(exposure.model).path);
         emit done(tr("Opened \"%1\".").arg(element->instanceName()));
     });
     connect(&_reload, &ModelReload::failed, this,
@@ -79,9 +81,8 @@ bool FileActions::isMissing(const CEL_SharedPtr<TD_CelVq3d>& model) const
     return _loader.library().isPlaceholder(model);
 }
 
-void FileActions::setViews(GV_GraphXViewQt* graph, SGV_Graph3DView* tree)
+void FileActions::setTree(SGV_Graph3DView* tree)
 {
-    _graph = graph;
     _tree = tree;
     showTitle();
 }
@@ -113,7 +114,8 @@ void FileActions::fillMenu(QMenu& menu)
     add(tr("Save &As..."), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S), &FileActions::saveAs);
     menu.addSeparator();
     QAction* quit = menu.addAction(tr("&Quit"), _window, &QWidget::close);
-    quit->setShortcut(QKeySequence::Quit);
+    // Not every platform has a key of its own for it.
+    quit->setShortcut(Qt::CTRL | Qt::Key_Q);
 }
 
 void FileActions::fillRecent(QMenu& menu)
@@ -165,17 +167,18 @@ void FileActions::openNext()
     const QString path = _waiting.takeFirst();
     if (!isScene(path)) {
         connect(
-            &_loader, &ModelLoader::finished, this,
-            [this, path] {
-                if (QFileInfo::exists(path))
-                    _recent.add(path);
-                openNext();
-            },
+            &_loader, &ModelLoader::finished, this, [this] { openNext(); },
             Qt::SingleShotConnection);
         _loader.load({path});
     } else if (!mayClose() || !_document.open(path)) {
         openNext();
     }
+}
+
+void FileActions::cancel()
+{
+    _waiting.clear();
+    _loader.cancel();
 }
 
 void FileActions::finishScene(bool ok, const QString& message)
@@ -203,22 +206,25 @@ void FileActions::reload()
 
 void FileActions::rememberViews()
 {
-    if (!_graph || !_tree)
+    // Of several files that are read again, the first one finds the views as the user left them.
+    if (_treeState || !_tree)
         return;
-    _graphState.emplace(*_graph);
+    for (GV_GraphXViewQt* graph : _window->findChildren<GV_GraphXViewQt*>())
+        _graphStates.emplace_back(graph, *graph);
     _treeState.emplace(*_tree);
 }
 
 void FileActions::finishReload(const QStringList& paths)
 {
-    if (_graphState && _graph)
-        _graphState->restore(*_graph);
+    for (const auto& [graph, state] : std::exchange(_graphStates, {})) {
+        if (graph)
+            state.restore(*graph);
+    }
     if (_treeState && _tree)
         _treeState->restore(*_tree);
-    _graphState.reset();
     _treeState.reset();
     if (!paths.isEmpty())
-        emit done(tr("Read %n model file(s) again.", nullptr, static_cast<int>(paths.size())));
+        emit done(tr("Model files read again: %1.").arg(paths.size()));
 }
 
 bool FileActions::save()
@@ -311,9 +317,14 @@ void FileActions::offerAbandoned()
         box.exec();
         if (box.clickedButton() == drop)
             _autosave->discard(copy);
-        // The others wait for the next time: there is one scene at a time.
-        if (box.clickedButton() == take && _autosave->takeUp(copy))
+        if (box.clickedButton() != take)
+            continue;
+        // What is opened meanwhile waits. The other copies wait for the next time: there is one
+        // scene at a time.
+        _opening = true;
+        if (_autosave->takeUp(copy))
             return;
+        _opening = false;
     }
 }
 

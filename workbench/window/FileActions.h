@@ -14,6 +14,8 @@
 #include <QStringList>
 #include <memory>
 #include <optional>
+#include <utility>
+#include <vector>
 
 class GV_GraphXViewQt;
 class HostSession;
@@ -43,8 +45,9 @@ public:
     bool isMissing(const CEL_SharedPtr<TD_CelVq3d>& model) const;
 
     void fillMenu(QMenu& menu);
-    /// The views that keep what is folded in them when a model is reloaded. Not owned.
-    void setViews(GV_GraphXViewQt* graph, SGV_Graph3DView* tree);
+    /// The tree that keeps what is folded in it when a model is reloaded, as every graph view of
+    /// the window does. Not owned.
+    void setTree(SGV_Graph3DView* tree);
     /// Whether models are read again when their files change.
     void setWatching(bool watching);
     /// Whether there is a user to ask. Without one, what is not saved may go.
@@ -52,6 +55,8 @@ public:
 
     /// Opens models and scenes, one after the other; allOpened() follows.
     void open(const QStringList& paths);
+    /// Stops what is being opened, and forgets what waits; allOpened() follows.
+    void cancel();
     /// Asks whether to save what is not, and saves it. False when the user wants to stay.
     bool mayClose();
     /// Saves without a question. On failure the error becomes one line with the file's name.
@@ -94,9 +99,8 @@ private:
     QStringList _waiting;
     bool _opening = false;
     bool _asks = true;
-    QPointer<GV_GraphXViewQt> _graph;
     QPointer<SGV_Graph3DView> _tree;
     /// How the views were before models were exchanged.
-    std::optional<GraphViewState> _graphState;
+    std::vector<std::pair<QPointer<GV_GraphXViewQt>, GraphViewState>> _graphStates;
     std::optional<TreeViewState> _treeState;
 };

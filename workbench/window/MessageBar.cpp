@@ -4,6 +4,7 @@
 
 #include <QAccessible>
 #include <QAction>
+#include <QEvent>
 #include <QLabel>
 #include <QStyle>
 
@@ -34,9 +35,14 @@ MessageBar::MessageBar(QWidget* parent)
     _text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     _text->setAccessibleName(tr("Messages"));
     _text->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    _text->installEventFilter(this);
     addWidget(_text);
-    addAction(style()->standardIcon(QStyle::SP_TitleBarCloseButton), tr("Close the messages"), this,
-              &MessageBar::clear);
+    QAction* close = addAction(style()->standardIcon(QStyle::SP_TitleBarCloseButton),
+                               tr("Close the messages"), this, &MessageBar::clear);
+    close->setShortcut(Qt::Key_Escape);
+    close->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    // Buttons of tool bars are passed over by Tab, since menus have their actions as well.
+    widgetForAction(close)->setFocusPolicy(Qt::TabFocus);
     refresh();
 }
 
@@ -56,14 +62,29 @@ void MessageBar::clear()
     refresh();
 }
 
+bool MessageBar::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == _text && event->type() == QEvent::Resize)
+        fitHeight();
+    return QToolBar::eventFilter(watched, event);
+}
+
+/// A tool bar asks a text for its height before it knows its width, and leaves too much room.
+void MessageBar::fitHeight()
+{
+    if (!_messages.isEmpty())
+        _text->setFixedHeight(_text->heightForWidth(_text->width()));
+}
+
 void MessageBar::refresh()
 {
     QStringList lines = _messages;
     const auto left = static_cast<int>(lines.size()) - mostLines;
     if (left > 0) {
         lines = lines.mid(left);
-        lines.prepend(tr("%n earlier message(s)", nullptr, left));
+        lines.prepend(tr("Earlier messages: %1").arg(left));
     }
     _text->setText(lines.join(u'\n'));
+    fitHeight();
     setVisible(!_messages.isEmpty());
 }

@@ -20,6 +20,8 @@ public:
     /// Empty while the bar is hidden.
     QStringList messages() const { return _messages; }
 
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 public slots:
     /// Takes all lines away, and with them the bar.
     void clear();
@@ -28,6 +30,8 @@ public slots:
     void refresh();
 
 private:
+    void fitHeight();
+
     QStringList _messages;
     QLabel* _text;
 };

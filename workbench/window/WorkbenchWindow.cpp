@@ -100,7 +100,7 @@ WorkbenchWindow::WorkbenchWindow(HostSession& session, const WindowOptions& opti
     // The colours of rows come with the style sheet, and the menus with the definitions.
     loadActions();
     _treeView->init();
-    new GraphViewKeys(_graphView, session.context());
+    takeIn(*_graphView);
     createDocks();
     createMenus();
     createToolBars();
@@ -259,7 +259,10 @@ void WorkbenchWindow::createWindowMenu()
         window->addAction(shown);
     }
     window->addSeparator();
-    window->addAction(tr("&Reset Layout"), this, [this] { _layout->reset(); });
+    window->addAction(tr("&Reset Layout"), this, [this] {
+        _layout->reset();
+        _messages->refresh();
+    });
 }
 
 void WorkbenchWindow::createHelpMenu()
@@ -282,8 +285,9 @@ void WorkbenchWindow::createToolBars()
 
 void WorkbenchWindow::createEmptyStates()
 {
-    auto* graph = new EmptyState(_graphView, [this] { return whyNothingIsShown(); });
-    auto* tree = new EmptyState(_treeView->treeView(), [this] { return whyNothingIsShown(); });
+    auto* graph = new EmptyState(_graphView->viewport(), [this] { return whyNothingIsShown(); });
+    auto* tree =
+        new EmptyState(_treeView->treeView()->viewport(), [this] { return whyNothingIsShown(); });
     const TUSceneChangeManager* changes = _session.context().changeManager();
     for (EmptyState* state : {graph, tree}) {
         connect(state, &QLabel::linkActivated, _files, &FileActions::chooseFiles);
@@ -335,7 +339,16 @@ void WorkbenchWindow::connectFiles()
         setWindowTitle(tr("%1[*] - Subnode Workbench").arg(title));
         setWindowModified(modified);
     });
-    _files->setViews(_graphView, _treeView);
+    connect(_progress, &QProgressDialog::canceled, _files, &FileActions::cancel);
+    _files->setTree(_treeView);
+}
+
+void WorkbenchWindow::takeIn(GV_GraphXViewQt& view)
+{
+    new GraphViewKeys(&view, _session.context());
+    // A canvas takes whatever is dragged over it for one of its items; files are for the window.
+    view.setAcceptDrops(false);
+    view.viewport()->setAcceptDrops(false);
 }
 
 ViewDock* WorkbenchWindow::openGraphView()
@@ -349,7 +362,7 @@ ViewDock* WorkbenchWindow::openGraphView()
     else
         splitDockWidget(_graphDock, dock, Qt::Horizontal);
     if (auto* graph = qobject_cast<GV_GraphXViewQt*>(view->widget()))
-        new GraphViewKeys(graph, _session.context());
+        takeIn(*graph);
     dock->show();
     view->widget()->setFocus();
     return dock;
@@ -392,7 +405,7 @@ void WorkbenchWindow::closeEvent(QCloseEvent* event)
         event->ignore();
         return;
     }
-    _loader.cancel();
+    _files->cancel();
     _layout->save();
     event->accept();
 }

@@ -72,6 +72,8 @@ protected:
 
 private:
     void loadActions();
+    /// What every graph view of the window has beyond those of others.
+    void takeIn(GV_GraphXViewQt& view);
     void createDocks();
     void createMenus();
     void createEditMenu();
