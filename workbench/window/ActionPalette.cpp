@@ -19,6 +19,7 @@
 namespace {
 
 constexpr int actionRole = Qt::UserRole;
+constexpr int blankExtent = 16;
 constexpr QSize initialSize(700, 380);
 
 QString plain(const QString& text)
@@ -31,6 +32,14 @@ QString plain(const QString& text)
 QString keysOf(const QAction& action)
 {
     return QKeySequence::listToString(action.shortcuts(), QKeySequence::NativeText);
+}
+
+/// Keeps the names of actions without an icon in line with the others.
+QIcon blankIcon()
+{
+    QPixmap blank(blankExtent, blankExtent);
+    blank.fill(Qt::transparent);
+    return QIcon(blank);
 }
 
 /// Each word anywhere, in any order and whatever its case.
@@ -102,8 +111,11 @@ void ActionPalette::addMenu(const QList<QAction*>& actions, const QString& path)
             addMenu(action->menu()->actions(), text + QStringLiteral(" \u203a "));
             continue;
         }
-        auto* name = new QStandardItem(action->icon(), text);
+        auto* name =
+            new QStandardItem(action->icon().isNull() ? blankIcon() : action->icon(), text);
         auto* keys = new QStandardItem(keysOf(*action));
+        if (action->isCheckable())
+            name->setCheckState(action->isChecked() ? Qt::Checked : Qt::Unchecked);
         name->setData(QVariant::fromValue(QPointer<QAction>(action)), actionRole);
         for (QStandardItem* item : {name, keys})
             item->setEnabled(action->isEnabled());
