@@ -195,8 +195,11 @@ void FileActions::finishScene(bool ok, const QString& message)
 
 void FileActions::newScene()
 {
-    if (mayClose())
-        _document.newScene();
+    if (!mayClose())
+        return;
+    // What is still being read was meant for the scene that goes.
+    cancel();
+    _document.newScene();
 }
 
 void FileActions::reload()

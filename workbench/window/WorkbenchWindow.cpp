@@ -32,6 +32,7 @@
 #include "workbench/views/DrawingFollower.h"
 #include "workbench/views/EmptyState.h"
 #include "workbench/views/FilterCount.h"
+#include "workbench/views/FocusRing.h"
 #include "workbench/views/GraphViewKeys.h"
 #include "workbench/window/ActionPalette.h"
 #include "workbench/window/FileActions.h"
@@ -96,6 +97,7 @@ WorkbenchWindow::WorkbenchWindow(HostSession& session, const WindowOptions& opti
     createToolBars();
     createEmptyStates();
     createStatusBar();
+    new FocusRing(this);
     connectFiles();
     connectTimeline();
     _files->setWatching(options.watches);
