@@ -70,6 +70,22 @@ private slots:
         QCOMPARE(done.out, QByteArray("model\n"));
     }
 
+    void a_scene_that_was_not_read_wholly_is_not_replaced()
+    {
+        const QByteArray later = "{\"format\": \"subnode-scene\", \"version\": 99, \"wings\": 2}\n";
+        write(QStringLiteral("later.subnodes"), later);
+        const QString scene = path(QStringLiteral("later.subnodes"));
+        const Run done = run({scene, "--save", scene});
+        QCOMPARE(done.code, 1);
+        QVERIFY(done.error.count('\n') >= 1);
+        QFile file(scene);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(file.readAll(), later);
+        const QString other = path(QStringLiteral("other.subnodes"));
+        QCOMPARE(run({scene, "--save", other}).code, 1);
+        QVERIFY(QFile::exists(other));
+    }
+
     void a_file_that_is_no_scene_is_one_line()
     {
         write(QStringLiteral("letter.subnodes"), "Dear Robot,\n");

@@ -280,7 +280,7 @@ bool FileActions::saveWithConsent(const QString& path)
 
 bool FileActions::saveTo(const QString& path, QString& error)
 {
-    return _document.saveAs(path, &error, SceneDocument::Consent::Given);
+    return _document.saveAs(path, &error);
 }
 
 bool FileActions::mayClose()

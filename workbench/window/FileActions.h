@@ -59,7 +59,8 @@ public:
     void cancel();
     /// Asks whether to save what is not, and saves it. False when the user wants to stay.
     bool mayClose();
-    /// Saves without a question. On failure the error becomes one line with the file's name.
+    /// Saves without a question, and so not over a scene that could not be read wholly. On failure
+    /// the error becomes one line with the file's name.
     bool saveTo(const QString& path, QString& error);
     /// Asks what to do with the copies of scenes that a run before this one could not save.
     void offerAbandoned();
