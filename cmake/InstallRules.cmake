@@ -10,8 +10,6 @@ set(SUBNODEVIEWS_INSTALL_INCLUDEDIR "${CMAKE_INSTALL_INCLUDEDIR}/subnodeviews")
 set(SUBNODEVIEWS_INSTALL_CMAKEDIR "${CMAKE_INSTALL_LIBDIR}/cmake/SubnodeViews")
 # subnode-workbench looks for its importer there, relative to itself.
 set(SUBNODEVIEWS_INSTALL_LIBEXECDIR "libexec/subnode-views")
-# Up to 1.0 a minor version may change everything.
-set(SUBNODEVIEWS_SOVERSION "${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR}")
 
 # Where the libraries are, seen from a folder of the prefix.
 function(subnode_origin_rpath target folder)
@@ -63,6 +61,7 @@ configure_package_config_file(
   "${CMAKE_CURRENT_LIST_DIR}/SubnodeViewsConfig.cmake.in"
   "${PROJECT_BINARY_DIR}/cmake/SubnodeViewsConfig.cmake"
   INSTALL_DESTINATION "${SUBNODEVIEWS_INSTALL_CMAKEDIR}"
+  PATH_VARS SUBNODEVIEWS_INSTALL_INCLUDEDIR SUBNODEVIEWS_INSTALL_TRANSLATIONSDIR
   NO_SET_AND_CHECK_MACRO)
 write_basic_package_version_file(
   "${PROJECT_BINARY_DIR}/cmake/SubnodeViewsConfigVersion.cmake"

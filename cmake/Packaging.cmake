@@ -66,6 +66,8 @@ set(CPACK_DEBIAN_LIBRARY_PACKAGE_CONTROL_EXTRA "${packaging}/triggers")
 set(CPACK_DEBIAN_LIBRARY_PACKAGE_DEPENDS libqt6svg6)
 set(CPACK_DEBIAN_HEADERS_PACKAGE_DEPENDS
   "${library_package} ${same_version}, qt6-base-dev (>= 6.4), qt6-svg-dev, libgl-dev")
+# For the texts of Qt itself in the language of the user.
+set(CPACK_DEBIAN_WORKBENCH_PACKAGE_RECOMMENDS "qt6-translations-l10n")
 set(CPACK_DEBIAN_WORKBENCH_PACKAGE_DEPENDS "${library_package} ${same_version}")
 
 include(CPack)

@@ -28,5 +28,5 @@ function(subnode_add_translations target)
   set(of_library ${compiled})
   list(FILTER of_library INCLUDE REGEX "/subnodeviews_[^/]*$")
   install(FILES ${of_library}
-          DESTINATION "${CMAKE_INSTALL_DATAROOTDIR}/subnodeviews/translations" COMPONENT Runtime)
+          DESTINATION "${SUBNODEVIEWS_INSTALL_TRANSLATIONSDIR}" COMPONENT Runtime)
 endfunction()

@@ -10,7 +10,9 @@ cd "$source_dir"
 layers=(opensg host graphview subnodetree responder referencehost models workbench)
 existing=()
 for layer in "${layers[@]}"; do [[ -d $layer ]] && existing+=("$layer"); done
-mapfile -t sources < <(git ls-files -- "${existing[@]/%//*.cpp}" | sort)
+# In two steps, so that a failure ends the script.
+found=$(git ls-files -- "${existing[@]/%//*.cpp}")
+mapfile -t sources < <(sort <<<"$found")
 
 if [[ ${TIDY_CHANGED:-0} == 1 ]]; then
     newest=$(git log -1 --format=%ct HEAD)

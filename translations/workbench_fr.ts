@@ -236,6 +236,18 @@
         <source>%1 cannot be written: %2</source>
         <translation>Impossible d’écrire %1&#x202f;: %2</translation>
     </message>
+    <message>
+        <source>There is no model to select in.</source>
+        <translation>Il n’y a pas de modèle où sélectionner.</translation>
+    </message>
+    <message>
+        <source>%1 was not saved, since not everything could be done.</source>
+        <translation>%1 n’a pas été enregistré, car tout n’a pas pu être fait.</translation>
+    </message>
+    <message>
+        <source>%1 is a model, which no scene may replace.</source>
+        <translation>%1 est un modèle, qu’aucune scène ne peut remplacer.</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>
@@ -324,10 +336,6 @@
         <translation>L’apparence de la fenêtre&#x202f;: light (claire), dark (sombre) ou system (celle du système).</translation>
     </message>
     <message>
-        <source>Neither reads nor writes preferences, layout and recent files.</source>
-        <translation>Ne lit ni n’écrit les préférences, la disposition et les fichiers récents.</translation>
-    </message>
-    <message>
         <source>Shows the inner hierarchy of 3D models and works on their parts.</source>
         <translation>Montre la hiérarchie interne de modèles 3D et agit sur leurs parties.</translation>
     </message>
@@ -362,6 +370,14 @@
     <message>
         <source>There is no model to work on.</source>
         <translation>Il n’y a pas de modèle sur lequel agir.</translation>
+    </message>
+    <message>
+        <source>Neither reads nor writes preferences, layout, recent files and automatic copies.</source>
+        <translation>Ne lit ni n’écrit les préférences, la disposition, les fichiers récents et les copies automatiques.</translation>
+    </message>
+    <message>
+        <source>A scene can only be the first file, which &quot;%1&quot; is not.</source>
+        <translation>Une scène ne peut être que le premier fichier, ce que «&#x202f;%1&#x202f;» n’est pas.</translation>
     </message>
 </context>
 <context>
@@ -1043,6 +1059,10 @@ Prend effet au prochain démarrage.</translation>
         <source>a subnode of %1 has no name</source>
         <translation>%1&#x202f;: sous-nœud sans nom</translation>
     </message>
+    <message>
+        <source>%1 is in groups that are nested too deep</source>
+        <translation>%1&#x202f;: groupes imbriqués trop profondément</translation>
+    </message>
 </context>
 <context>
     <name>SceneProblems</name>
@@ -1403,6 +1423,26 @@ Prend effet au prochain démarrage.</translation>
     <message>
         <source>Graph View %1</source>
         <translation>Vue en graphe %1</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;No subnode has &quot;%1&quot; in its name.&lt;/b&gt;</source>
+        <translation>&lt;b&gt;Aucun sous-nœud n’a «&#x202f;%1&#x202f;» dans son nom.&lt;/b&gt;</translation>
+    </message>
+    <message>
+        <source>About Subnode Workbench</source>
+        <translation>À propos de Subnode Workbench</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;Subnode Workbench %1&lt;/b&gt;&lt;br&gt;Shows the inner hierarchy of 3D models and works on their parts.&lt;br&gt;Free software under the MIT licence.</source>
+        <translation>&lt;b&gt;Subnode Workbench %1&lt;/b&gt;&lt;br&gt;Montre la hiérarchie interne de modèles 3D et agit sur leurs parties.&lt;br&gt;Logiciel libre sous licence MIT.</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;The model has no subnodes.&lt;/b&gt;&lt;br&gt;Debug mode (Ctrl+Shift+D) lists all of its nodes.</source>
+        <translation>&lt;b&gt;Le modèle n’a pas de sous-nœuds.&lt;/b&gt;&lt;br&gt;Le mode débogage (Ctrl+Shift+D) liste tous ses nœuds.</translation>
+    </message>
+    <message>
+        <source>A&amp;bout Subnode Workbench</source>
+        <translation>À &amp;propos de Subnode Workbench</translation>
     </message>
 </context>
 </TS>

@@ -120,14 +120,17 @@ int doWork(const CommandLine& commandLine, HostSession& session, WorkbenchWindow
     int code = batch.openFiles();
     batch.goToFrame();
     batch.setFilter();
-    code = std::max<int>(code, batch.selectSubnodes());
-    code = std::max<int>(code, batch.performActions());
+    const ExitCode selected = batch.selectSubnodes();
+    code = std::max<int>(code, selected);
+    // Actions must not work on anything else.
+    if (selected == ExitDone)
+        code = std::max<int>(code, batch.performActions());
     if (commandLine.dump)
         code = std::max<int>(code, batch.dump());
     if (!commandLine.screenshot.isEmpty())
         code = std::max<int>(code, batch.takeScreenshot());
     if (!commandLine.saveAs.isEmpty())
-        code = std::max<int>(code, batch.save());
+        code = std::max<int>(code, batch.save(code == ExitDone));
     return code;
 }
 

@@ -164,6 +164,8 @@ void tst_command_line::refuses_data()
         QTest::newRow(name) << arguments << QString::fromLatin1(culprit);
     };
     row("an unknown option", {"--wings"}, "wings");
+    row("a scene behind a model", {"m.obj", "s.subnodes"}, "s.subnodes");
+    row("a second scene", {"a.subnodes", "b.SUBNODES"}, "b.SUBNODES");
     row("an option without its value", {"m.obj", "--screenshot"}, "screenshot");
     row("an empty picture name", {"m.obj", "--screenshot", ""}, "--screenshot");
     row("a size that is no size", {"--size", "large"}, "large");

@@ -8,10 +8,10 @@
 #include "host/scene/TUScene.h"
 #include "host/selection/SL_Selection.h"
 #include "referencehost/session/HostSession.h"
-#include "workbench/window/MessageBar.h"
-#include "workbench/window/WorkbenchWindow.h"
 #include "workbench/files/ImportProgressDialog.h"
 #include "workbench/files/ModelLoader.h"
+#include "workbench/window/MessageBar.h"
+#include "workbench/window/WorkbenchWindow.h"
 
 #include <OpenSG/OSGBaseFunctions.h>
 #include <QApplication>

@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QDirIterator>
+#include <QFileInfo>
 
 /// Runs the program on scenes, and on files that are after it.
 class tst_program_scenes : public ProgramTest
@@ -81,9 +82,23 @@ private slots:
         QFile file(scene);
         QVERIFY(file.open(QIODevice::ReadOnly));
         QCOMPARE(file.readAll(), later);
-        const QString other = path(QStringLiteral("other.subnodes"));
-        QCOMPARE(run({scene, "--save", other}).code, 1);
-        QVERIFY(QFile::exists(other));
+    }
+
+    void nothing_is_saved_when_something_went_wrong()
+    {
+        const QString scene = armScene();
+        QFile file(scene);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QByteArray before = file.readAll();
+        file.close();
+        const Run missing = run({path(QStringLiteral("typo.gltf")), "--save", scene});
+        QCOMPARE(missing.code, 1);
+        QCOMPARE(missing.error.count('\n'), 2);
+        const Run unknown = run({_robot, "--select", "Nope", "--save", scene});
+        QCOMPARE(unknown.code, 2);
+        QVERIFY2(unknown.error.contains("arm.subnodes was not saved"), unknown.error.constData());
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(file.readAll(), before);
     }
 
     void a_file_that_is_no_scene_is_one_line()
@@ -102,6 +117,42 @@ private slots:
         QCOMPARE(done.code, 1);
         QCOMPARE(done.error.count('\n'), 1);
         QVERIFY(done.error.contains("s.subnodes"));
+    }
+
+    void a_model_is_never_replaced_by_a_scene()
+    {
+        const QString model = path(QStringLiteral("model.gltf"));
+        QVERIFY(QFile::copy(_robot, model));
+        const Run done = run({model, "--save", model});
+        QCOMPARE(done.code, 1);
+        QCOMPARE(done.error.count('\n'), 1);
+        QCOMPARE(QFileInfo(model).size(), QFileInfo(_robot).size());
+    }
+
+    void selecting_takes_the_place_of_what_the_scene_was_saved_with()
+    {
+        const QString scene = path(QStringLiteral("neck.subnodes"));
+        QCOMPARE(run({_robot, "--select", "Neck", "--save", scene}).code, 0);
+        const Run done =
+            run({scene, "--select", "Head", "--action", "onActionHideNodes", "--dump", "text"});
+        QCOMPARE(done.code, 0);
+        QVERIFY(done.out.contains("Head [KeyTransform] key disabled selected"));
+        QCOMPARE(done.out.count(" disabled"), 1);
+        QCOMPARE(done.out.count(" selected"), 1);
+        // Where nothing was saved as selected, the first model is meant.
+        const Run unselected = run({armScene(), "--select", "Head", "--dump", "text"});
+        QCOMPARE(unselected.code, 0);
+        QCOMPARE(unselected.out.count(" selected"), 1);
+    }
+
+    void actions_are_left_undone_when_their_subnode_is_not_there()
+    {
+        const QString scene = path(QStringLiteral("neck.subnodes"));
+        QCOMPARE(run({_robot, "--select", "Neck", "--save", scene}).code, 0);
+        const Run done =
+            run({scene, "--select", "Typo", "--action", "onActionHideNodes", "--dump", "text"});
+        QCOMPARE(done.code, 2);
+        QCOMPARE(done.out.count(" disabled"), 0);
     }
 
     void quitting_needs_nothing_else()

@@ -97,7 +97,8 @@ private slots:
         QCOMPARE(textsOf(menu("Window")->actions()),
                  (QStringList{"New Graph View", "-", "Scene", "Subnode Tree", "Graph View",
                               "Timeline", "History", "Log", "-", "Reset Layout"}));
-        QCOMPARE(textsOf(menu("Help")->actions()), (QStringList{"Find Action...", "About Qt"}));
+        QCOMPARE(textsOf(menu("Help")->actions()),
+                 (QStringList{"Find Action...", "-", "About Subnode Workbench", "About Qt"}));
         context().actionManager()->validateActions();
         QCOMPARE(textsOf(menu("View")->actions()),
                  (QStringList{"Zoom In", "Zoom Out", "Actual Size", "Go to Top Left", "Reset View",

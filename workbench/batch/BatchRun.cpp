@@ -17,6 +17,7 @@
 #include "referencehost/scene/SceneElements.h"
 #include "referencehost/session/HostSession.h"
 #include "subnodetree/SGV_Graph3DView.h"
+#include "workbench/scenefile/SameFile.h"
 #include "workbench/window/FileActions.h"
 #include "workbench/window/WorkbenchWindow.h"
 
@@ -74,22 +75,36 @@ void BatchRun::setFilter()
         _window.treeView().filterField()->setText(_commandLine.filter);
 }
 
+MO_ElementModule* BatchRun::elementToSelectIn() const
+{
+    SL_Selection* selection = _session.context().selection();
+    if (MO_Node* selected = SL_SelectionUtil::getFirstNode(selection))
+        return dynamic_cast<MO_ElementModule*>(selected);
+    const std::vector<MO_ElementModule*> elements = elementsOf(_session.currentScene());
+    if (elements.empty())
+        return nullptr;
+    selection->add(elements.front());
+    return elements.front();
+}
+
 ExitCode BatchRun::selectSubnodes()
 {
     if (_commandLine.selectedNames.isEmpty())
         return ExitDone;
     SL_Selection* selection = _session.context().selection();
-    MO_Node* node = SL_SelectionUtil::getFirstNode(selection);
-    const auto* element = dynamic_cast<const MO_ElementModule*>(node);
-    if (!element)
-        return ExitFileError;
-
-    ExitCode code = ExitDone;
     const SL_Selection::BatchSelectionModeScope scope(selection);
+    MO_ElementModule* element = elementToSelectIn();
+    if (!element) {
+        printError(QApplication::translate("BatchRun", "There is no model to select in."));
+        return ExitFileError;
+    }
+    // What a scene was saved with is not what was asked for.
+    element->selInterface()->clearSubSelection();
+    ExitCode code = ExitDone;
     for (const QString& name : _commandLine.selectedNames) {
         int id = 0;
         if (element->getSelIdForNodeKey(AT_ModelNodeKey(name), id)) {
-            node->selInterface()->subSelect(id, true);
+            element->selInterface()->subSelect(id, true);
         } else {
             printError(QApplication::translate("BatchRun", "%1 has no subnode named \"%2\".")
                            .arg(element->instanceName(), name));
@@ -191,8 +206,23 @@ ExitCode BatchRun::takeScreenshot()
     return ExitDone;
 }
 
-ExitCode BatchRun::save()
+ExitCode BatchRun::save(bool allWentWell)
 {
+    if (!allWentWell) {
+        printError(QApplication::translate("BatchRun",
+                                           "%1 was not saved, since not everything could be done.")
+                       .arg(_commandLine.saveAs));
+        return ExitFileError;
+    }
+    for (const QString& file : _commandLine.files) {
+        if (isSameFile(file, _commandLine.saveAs) &&
+            !isSameFile(file, _window.files().document().path())) {
+            printError(
+                QApplication::translate("BatchRun", "%1 is a model, which no scene may replace.")
+                    .arg(_commandLine.saveAs));
+            return ExitFileError;
+        }
+    }
     QString error;
     if (_window.files().saveTo(_commandLine.saveAs, error))
         return ExitDone;

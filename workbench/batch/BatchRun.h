@@ -29,15 +29,20 @@ public:
     ExitCode openFiles();
     void goToFrame();
     void setFilter();
+    /// In place of what was selected before.
     ExitCode selectSubnodes();
     /// An action that does not exist, or is not available now, is an error of usage and does not
     /// stop the others.
     ExitCode performActions();
     ExitCode dump();
     ExitCode takeScreenshot();
-    ExitCode save();
+    /// Unless all went well before, nothing is saved: less than was wanted might replace a good
+    /// scene.
+    ExitCode save(bool allWentWell);
 
 private:
+    /// The selected element, or the first one, which is selected then; null when there is none.
+    MO_ElementModule* elementToSelectIn() const;
     bool perform(const QString& action);
     std::vector<ListedNode> listed(const MO_ElementModule& element, const TD_CelVq3d& model,
                                    int frame) const;

@@ -3,6 +3,7 @@
 #include "workbench/batch/CommandLine.h"
 
 #include "workbench/modelstream/OneLine.h"
+#include "workbench/scenefile/SceneFormat.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -41,7 +42,9 @@ public:
     QCommandLineOption theme{"theme", tr("How the window looks: light, dark or system."),
                              tr("NAME")};
     QCommandLineOption noSettings{
-        "no-settings", tr("Neither reads nor writes preferences, layout and recent files.")};
+        "no-settings",
+        tr("Neither reads nor writes preferences, layout, recent files and automatic "
+           "copies.")};
 
     void addTo(QCommandLineParser& parser) const
     {
@@ -146,6 +149,12 @@ CommandLine::Outcome CommandLine::parse(const QStringList& arguments)
     const QString wrong = readValues(parser, options, line);
     if (!wrong.isEmpty())
         return failure(wrong);
+    for (qsizetype i = 1; i < line.files.size(); ++i) {
+        // A scene takes the place of what is open.
+        if (line.files[i].endsWith(u'.' + SceneFormat::extension, Qt::CaseInsensitive))
+            return failure(Options::tr("A scene can only be the first file, which \"%1\" is not.")
+                               .arg(line.files[i]));
+    }
     if (line.files.isEmpty() && (line.dump || !line.selectedNames.isEmpty()))
         return failure(Options::tr("There is no model to work on."));
     return {line, {}, false};

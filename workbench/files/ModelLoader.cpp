@@ -115,7 +115,8 @@ void ModelLoader::take(const ImportResult& result)
         model = std::make_shared<TD_CelVq3d>(osg::NodePtr(result.root));
         _library.note(model, _path);
     }
-    if (result.cancelled)
+    // The file may have been read to its end in the moment of cancelling.
+    if (result.cancelled || _cancelled)
         request.reading.cancelled = true;
     else if (request.done && model)
         request.reading.models.insert_or_assign(_path, model);

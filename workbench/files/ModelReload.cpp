@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "workbench/files/ModelReload.h"
 
+#include "host/commands/CO_CommandManager.h"
 #include "host/models/AT_ModelNodeKey.h"
 #include "host/models/TD_CelVq3d.h"
 #include "host/scene/MO_ElementModule.h"
@@ -15,6 +16,7 @@
 #include "workbench/files/SceneDocument.h"
 
 #include <QPointer>
+#include <QUndoStack>
 
 namespace {
 
@@ -57,6 +59,35 @@ ModelReload::ModelReload(SceneDocument& document, QObject* parent)
     : QObject(parent)
     , _document(document)
 {
+    SC_SessionContext& context = document.session().context();
+    connect(context.commandManager()->history(), &QUndoStack::indexChanged, this,
+            &ModelReload::exchangeOutdated);
+    connect(context.changeManager(), &TUSceneChangeManager::currentSceneChanged, this,
+            &ModelReload::forget);
+}
+
+void ModelReload::forget()
+{
+    _latest.clear();
+    _outdated.clear();
+}
+
+void ModelReload::exchangeOutdated()
+{
+    if (_outdated.empty())
+        return;
+    HostSession& session = _document.session();
+    _document.withoutModifying([&] {
+        for (MO_ElementModule* element : elementsOf(session.currentScene())) {
+            for (const MO_ElementModule::Exposure& exposure : element->exposures()) {
+                const auto it = _outdated.find(exposure.model);
+                if (it != _outdated.end())
+                    element->exposeModel(exposure.firstFrame, exposure.lastFrame,
+                                         _latest[it->second]);
+            }
+        }
+        session.context().changeManager()->notify();
+    });
 }
 
 QStringList ModelReload::filesOf(const MO_ElementModule* element) const
@@ -113,6 +144,11 @@ void ModelReload::exchange(const Exchange& exchange)
     HostSession& session = _document.session();
     const ModelLibrary& library = _document.loader().library();
     emit aboutToExchange();
+    for (const CEL_SharedPtr<TD_CelVq3d>& model : library.modelsOf(exchange.path)) {
+        if (model != exchange.model)
+            _outdated.insert_or_assign(model, exchange.path);
+    }
+    _latest[exchange.path] = exchange.model;
     std::vector<KeptSubSelection> subSelections;
     for (MO_ElementModule* element : elementsOf(session.currentScene())) {
         if (element->selected())

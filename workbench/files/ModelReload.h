@@ -1,12 +1,17 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/models/CEL_SharedPtr.h"
+
 #include <QObject>
 #include <QSet>
 #include <QStringList>
+#include <map>
+#include <memory>
 
 class MO_ElementModule;
 class SceneDocument;
+class TD_CelVq3d;
 
 /// Reads model files again and shows what they hold now, in every exposure of the scene that shows
 /// a model of the file. Frames, settings, ids and selection stay, since they go by key. That is no
@@ -48,7 +53,13 @@ private:
     struct Exchange;
 
     void exchange(const Exchange& exchange);
+    void exchangeOutdated();
+    void forget();
 
     SceneDocument& _document;
     QSet<QString> _failing;
+    /// What was read last, by path, and the models that it took the place of: steps of the undo
+    /// history may bring these back.
+    std::map<QString, CEL_SharedPtr<TD_CelVq3d>> _latest;
+    std::map<std::weak_ptr<TD_CelVq3d>, QString, std::owner_less<>> _outdated;
 };

@@ -6,6 +6,7 @@
 #include "referencehost/session/HostSession.h"
 #include "workbench/files/ModelLoader.h"
 #include "workbench/modelstream/OneLine.h"
+#include "workbench/scenefile/SameFile.h"
 #include "workbench/scenefile/SceneBuilder.h"
 #include "workbench/scenefile/SceneCapture.h"
 #include "workbench/scenefile/SceneFileWriter.h"
@@ -228,7 +229,7 @@ bool SceneDocument::save(QString* error, Consent consent)
 bool SceneDocument::saveAs(const QString& path, QString* error, Consent consent)
 {
     const QString target = QDir::cleanPath(QFileInfo(path).absoluteFilePath());
-    if (target == _path && consent != Consent::Given) {
+    if (isSameFile(target, _path) && consent != Consent::Given) {
         if (_needsOtherName) {
             setText(error, named(_path, tr("saving would lose what could not be opened")));
             return false;

@@ -52,3 +52,14 @@ bool ModelLibrary::isFrom(const Model& model, const QString& path) const
     const Origin origin = originOf(model);
     return !wanted.isEmpty() && (origin.path == wanted || origin.otherPath == wanted);
 }
+
+std::vector<ModelLibrary::Model> ModelLibrary::modelsOf(const QString& path) const
+{
+    std::vector<Model> models;
+    for (const auto& [reference, entry] : _entries) {
+        const Model model = reference.lock();
+        if (model && isFrom(model, path))
+            models.push_back(model);
+    }
+    return models;
+}

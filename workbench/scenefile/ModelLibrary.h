@@ -5,6 +5,7 @@
 
 #include <QString>
 #include <map>
+#include <vector>
 
 class TD_CelVq3d;
 
@@ -34,6 +35,8 @@ public:
     bool isPlaceholder(const Model& model) const;
     /// Whether the model came from the file, or stands in for it. False for an empty path.
     bool isFrom(const Model& model, const QString& path) const;
+    /// All models that are from the file, by that measure.
+    std::vector<Model> modelsOf(const QString& path) const;
 
 private:
     struct Entry

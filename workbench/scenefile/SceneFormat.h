@@ -13,5 +13,7 @@ inline constexpr int version = 2;
 
 /// Far more than a network has that people can read; a damaged file may ask for anything.
 inline constexpr int mostPorts = 1024;
+/// Whoever walks through a scene may do so by recursion.
+inline constexpr int deepestGroup = 1000;
 
 } // namespace SceneFormat

@@ -68,6 +68,15 @@ void SceneNodesReader::readNode(const QJsonValue& value, int number)
                           tr("%1 is in a group that does not come before it").arg(members.where()));
         }
     }
+    const auto depthOf = [this](int group) {
+        return group < 0 ? 0 : _depths[static_cast<std::size_t>(group)] + 1;
+    };
+    if (depthOf(node.parent) > SceneFormat::deepestGroup) {
+        node.parent = _scene.nodes[static_cast<std::size_t>(node.parent)].parent;
+        _problems.add(Problem::Value,
+                      tr("%1 is in groups that are nested too deep").arg(members.where()));
+    }
+    _depths.push_back(depthOf(node.parent));
     node.name = members.text(QLatin1String("name"));
     node.x = members.number(QLatin1String("x"), 0.0);
     node.y = members.number(QLatin1String("y"), 0.0);

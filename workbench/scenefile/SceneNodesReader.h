@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 #include <QHash>
 #include <QJsonValue>
+#include <vector>
 
 class JsonMembers;
 class SceneProblems;
@@ -34,4 +35,6 @@ private:
     SceneProblems& _problems;
     /// The index of the node of each id.
     QHash<int, int> _indices;
+    /// How many groups each node is in, by its index.
+    std::vector<int> _depths;
 };

@@ -10,7 +10,6 @@
 #include "host/scene/SC_CurrentFrameInterface.h"
 #include "host/scene/SC_SessionContext.h"
 #include "host/scene/TUSceneChangeManager.h"
-#include "workbench/views/ViewState.h"
 
 #include <algorithm>
 #include <vector>
@@ -28,8 +27,11 @@ DrawingFollower::DrawingFollower(GV_GraphXViewQt* view, SC_SessionContext& sessi
 
 void DrawingFollower::follow()
 {
-    if (isOutdated())
-        GraphViewState(*_view).restore(*_view);
+    if (!isOutdated())
+        return;
+    GraphViewState& state = _states[_view->controller()->uiInfo()->visibleGraphModelNode()];
+    state.remember(*_view);
+    state.restore(*_view);
 }
 
 bool DrawingFollower::isOutdated() const

@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "workbench/views/ViewState.h"
+
 #include <QObject>
+#include <map>
 
 class GV_GraphXViewQt;
+class MO_ElementModule;
 class SC_SessionContext;
 
 /// Keeps a graph view in step with the drawings of the time line. The view keeps the tree of an
@@ -22,6 +26,8 @@ private:
     void follow();
     bool isOutdated() const;
 
+    /// What is folded, over all drawings of an element, which is only a key here.
+    std::map<const MO_ElementModule*, GraphViewState> _states;
     GV_GraphXViewQt* _view;
     SC_SessionContext& _session;
 };

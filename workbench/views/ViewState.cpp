@@ -43,10 +43,19 @@ void forEachBranch(const QAbstractItemModel& model,
 
 GraphViewState::GraphViewState(const GV_GraphXViewQt& view)
 {
+    remember(view);
+}
+
+void GraphViewState::remember(const GV_GraphXViewQt& view)
+{
     GV_TreeWalk walk(view.controller()->uiInfo()->rootUiNode());
     while (const GV_UiNode* node = walk.next()) {
-        if (node->isSgNode() && node->isCollapsed())
+        if (!node->isSgNode())
+            continue;
+        if (node->isCollapsed())
             _collapsed.insert(node->name());
+        else
+            _collapsed.remove(node->name());
     }
 }
 

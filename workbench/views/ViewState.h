@@ -12,7 +12,10 @@ class SGV_Graph3DView;
 class GraphViewState
 {
 public:
+    GraphViewState() = default;
     explicit GraphViewState(const GV_GraphXViewQt& view);
+    /// Takes over how the subnodes are folded that the view shows now; others stay as they were.
+    void remember(const GV_GraphXViewQt& view);
     /// Builds the tree anew and folds in it what was folded; what is new stays unfolded.
     void restore(GV_GraphXViewQt& view) const;
 

@@ -85,11 +85,18 @@ ActionPalette::ActionPalette(const QMenuBar& menuBar, QWidget* parent)
     connect(_list, &QTreeView::activated, this, &ActionPalette::performCurrent);
 }
 
+void ActionPalette::addActions(const QString& title, const QList<QAction*>& actions)
+{
+    _others.append({title, actions});
+}
+
 void ActionPalette::open()
 {
     _actions->clear();
     _actions->setHorizontalHeaderLabels({tr("Action"), tr("Keys")});
     addMenu(_menuBar.actions(), {});
+    for (const auto& [title, actions] : _others)
+        addMenu(actions, title + QStringLiteral(" \u203a "));
     _list->header()->setStretchLastSection(false);
     _list->header()->setSectionResizeMode(0, QHeaderView::Stretch);
     _list->header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);

@@ -20,6 +20,9 @@ public:
     /// The menu bar is not owned and must outlive the palette.
     ActionPalette(const QMenuBar& menuBar, QWidget* parent);
 
+    /// Lists these actions, too, which are in no menu, under the title. Not owned; they must
+    /// outlive the palette.
+    void addActions(const QString& title, const QList<QAction*>& actions);
     /// Lists the actions as they are now and shows the palette over its parent.
     void open() override;
 
@@ -37,6 +40,7 @@ private:
     void performCurrent();
 
     const QMenuBar& _menuBar;
+    QList<std::pair<QString, QList<QAction*>>> _others;
     QLineEdit* _field;
     QTreeView* _list;
     QStandardItemModel* _actions;

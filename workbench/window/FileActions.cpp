@@ -7,6 +7,7 @@
 #include "subnodetree/SGV_Graph3DView.h"
 #include "workbench/files/ModelLoader.h"
 #include "workbench/import/ModelImporter.h"
+#include "workbench/scenefile/SameFile.h"
 #include "workbench/scenefile/SceneFormat.h"
 
 #include <QFileDialog>
@@ -251,7 +252,7 @@ bool FileActions::saveAs()
 bool FileActions::saveWithConsent(const QString& path)
 {
     auto consent = SceneDocument::Consent::NotGiven;
-    const bool isOwn = path == _document.path();
+    const bool isOwn = isSameFile(path, _document.path());
     if (isOwn && (_document.needsOtherName() || _document.isChangedOnDisk())) {
         QMessageBox box(QMessageBox::Warning, tr("Save Scene"),
                         _document.needsOtherName()

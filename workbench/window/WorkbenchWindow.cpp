@@ -17,6 +17,7 @@
 #include "referencehost/session/HostSession.h"
 #include "responder/GT_Graph3DResponder.h"
 #include "subnodetree/SGV_Graph3DView.h"
+#include "subnodetree/SubNodeFilterProxyModel.h"
 #include "workbench/docks/LogDock.h"
 #include "workbench/docks/SceneListDock.h"
 #include "workbench/docks/ViewDock.h"
@@ -30,7 +31,6 @@
 #include "workbench/timeline/TimelineView.h"
 #include "workbench/timeline/TransportBar.h"
 #include "workbench/views/DrawingFollower.h"
-#include "workbench/views/EmptyState.h"
 #include "workbench/views/FilterCount.h"
 #include "workbench/views/FocusRing.h"
 #include "workbench/views/GraphViewKeys.h"
@@ -95,7 +95,7 @@ WorkbenchWindow::WorkbenchWindow(HostSession& session, const WindowOptions& opti
     createDocks();
     createMenus();
     createToolBars();
-    createEmptyStates();
+    addEmptyState(*_treeView->treeView()->viewport(), [this] { return whyTreeIsEmpty(); });
     createStatusBar();
     new FocusRing(this);
     connectFiles();
@@ -174,21 +174,30 @@ void WorkbenchWindow::connectTimeline()
     _timeline->view().refresh();
 }
 
-void WorkbenchWindow::createEmptyStates()
+void WorkbenchWindow::addEmptyState(QWidget& viewport, const EmptyState::Text& text)
 {
-    auto* graph = new EmptyState(_graphView->viewport(), [this] { return whyNothingIsShown(); });
-    auto* tree =
-        new EmptyState(_treeView->treeView()->viewport(), [this] { return whyNothingIsShown(); });
+    auto* state = new EmptyState(&viewport, text);
+    connect(state, &QLabel::linkActivated, _files, &FileActions::chooseFiles);
     const TUSceneChangeManager* changes = _session.context().changeManager();
-    for (EmptyState* state : {graph, tree}) {
-        connect(state, &QLabel::linkActivated, _files, &FileActions::chooseFiles);
-        const auto refresh = [state] { state->refresh(); };
-        connect(changes, &TUSceneChangeManager::selectionChanged, state, refresh);
-        connect(changes, &TUSceneChangeManager::networkChanged, state, refresh);
-        connect(changes, &TUSceneChangeManager::nodesChanged, state, refresh);
-        connect(changes, &TUSceneChangeManager::currentFrameChanged, state, refresh);
-        connect(changes, &TUSceneChangeManager::currentSceneChanged, state, refresh);
-    }
+    const auto refresh = [state] { state->refresh(); };
+    connect(changes, &TUSceneChangeManager::selectionChanged, state, refresh);
+    connect(changes, &TUSceneChangeManager::networkChanged, state, refresh);
+    connect(changes, &TUSceneChangeManager::nodesChanged, state, refresh);
+    connect(changes, &TUSceneChangeManager::currentFrameChanged, state, refresh);
+    connect(changes, &TUSceneChangeManager::currentSceneChanged, state, refresh);
+    connect(_treeView->filterField(), &QLineEdit::textChanged, state, refresh);
+}
+
+QString WorkbenchWindow::whyTreeIsEmpty() const
+{
+    const QString reason = whyNothingIsShown();
+    if (!reason.isEmpty() || _treeView->proxyModel()->rowCount() > 0)
+        return reason;
+    const QString filter = _treeView->filterField()->text();
+    return filter.isEmpty()
+               ? tr("<b>The model has no subnodes.</b><br>Debug mode (Ctrl+Shift+D) lists all of "
+                    "its nodes.")
+               : tr("<b>No subnode has \"%1\" in its name.</b>").arg(filter.toHtmlEscaped());
 }
 
 QString WorkbenchWindow::whyNothingIsShown() const
@@ -238,6 +247,7 @@ void WorkbenchWindow::takeIn(GV_GraphXViewQt& view)
 {
     new GraphViewKeys(&view, _session.context());
     new DrawingFollower(&view, _session.context());
+    addEmptyState(*view.viewport(), [this] { return whyNothingIsShown(); });
     // A canvas takes whatever is dragged over it for one of its items; files are for the window.
     view.setAcceptDrops(false);
     view.viewport()->setAcceptDrops(false);

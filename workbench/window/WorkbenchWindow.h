@@ -2,12 +2,12 @@
 #pragma once
 
 #include "workbench/files/ModelLoader.h"
+#include "workbench/views/EmptyState.h"
 
 #include <QMainWindow>
 #include <memory>
 
 class ActionPalette;
-class EmptyState;
 class FileActions;
 class GT_Graph3DResponder;
 class GV_GraphXViewQt;
@@ -81,11 +81,12 @@ private:
     void createWindowMenu();
     void createHelpMenu();
     void createToolBars();
-    void createEmptyStates();
+    void addEmptyState(QWidget& viewport, const EmptyState::Text& text);
     void createStatusBar();
     void connectFiles();
     void connectTimeline();
     QString whyNothingIsShown() const;
+    QString whyTreeIsEmpty() const;
     void repaintViews();
 
     HostSession& _session;

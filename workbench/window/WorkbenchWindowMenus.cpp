@@ -10,6 +10,7 @@
 #include "workbench/docks/ViewDock.h"
 #include "workbench/preferences/WindowLayout.h"
 #include "workbench/timeline/TimelineDock.h"
+#include "workbench/timeline/TimelineView.h"
 #include "workbench/timeline/TransportBar.h"
 #include "workbench/window/ActionPalette.h"
 #include "workbench/window/FileActions.h"
@@ -19,6 +20,7 @@
 #include <QApplication>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QToolBar>
 #include <QUndoStack>
 
@@ -127,8 +129,21 @@ void WorkbenchWindow::createHelpMenu()
 {
     QMenu* help = menuBar()->addMenu(tr("&Help"));
     _palette = new ActionPalette(*menuBar(), this);
+    QList<QAction*> ofTimeline = _timeline->view().actions();
+    for (QAction* inMenu : _timeline->transport().transportActions())
+        ofTimeline.removeOne(inMenu);
+    _palette->addActions(_timeline->windowTitle(), ofTimeline);
     QAction* find = help->addAction(tr("Find &Action..."), _palette, &ActionPalette::open);
     find->setShortcuts({QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_P), QKeySequence(Qt::Key_F1)});
+    help->addSeparator();
+    QAction* about = help->addAction(tr("A&bout Subnode Workbench"), this, [this] {
+        QMessageBox::about(this, tr("About Subnode Workbench"),
+                           tr("<b>Subnode Workbench %1</b><br>Shows the inner hierarchy of 3D "
+                              "models and works on their parts.<br>Free software under the MIT "
+                              "licence.")
+                               .arg(QStringLiteral(SUBNODEVIEWS_VERSION)));
+    });
+    about->setMenuRole(QAction::AboutRole);
     help->addAction(tr("About &Qt"), qApp, &QApplication::aboutQt);
 }
 

@@ -9,6 +9,7 @@
 #include "host/models/TD_KeyNodeFinders.h"
 #include "host/selection/SLB_NodeInterface.h"
 #include "host/selection/SL_Selection.h"
+#include "referencehost/commands/SetExposures.h"
 
 #include <OpenSG/OSGBaseFunctions.h>
 #include <QSignalSpy>
@@ -26,6 +27,7 @@ private slots:
     void the_new_model_takes_every_place_of_the_old_one();
     void ids_settings_and_selections_stay();
     void a_reload_is_neither_an_undo_step_nor_something_to_save();
+    void undo_and_redo_show_what_the_file_holds_now();
     void a_file_that_fails_leaves_everything_as_it_was();
     void a_missing_model_comes_back();
     void an_element_is_reloaded_with_all_its_files();
@@ -147,6 +149,23 @@ void tst_model_reload::a_reload_is_neither_an_undo_step_nor_something_to_save()
     QCOMPARE(_stage->session.context().commandManager()->history()->count(), 0);
     QVERIFY(_stage->document.save(nullptr));
     QVERIFY(contentOf(_stage->path("a.subnodes")).contains("\"arm.obj\""));
+}
+
+void tst_model_reload::undo_and_redo_show_what_the_file_holds_now()
+{
+    auto trimmed = arm()->exposures();
+    trimmed.front().lastFrame = 10;
+    CO_CommandManager& commands = *_stage->session.context().commandManager();
+    QVERIFY(commands.execute(new SetExposures(arm(), trimmed), QStringLiteral("Trim")));
+    _stage->writeModel("arm.obj", {"Claw"});
+    reload();
+    QVERIFY(shows("Claw"));
+    commands.history()->undo();
+    QVERIFY(shows("Claw", 20));
+    QVERIFY(!shows("Hand"));
+    commands.history()->redo();
+    QVERIFY(shows("Claw"));
+    QVERIFY(!arm()->modelAt(20));
 }
 
 void tst_model_reload::a_file_that_fails_leaves_everything_as_it_was()

@@ -175,6 +175,10 @@ void tst_scene_document::a_file_with_problems_is_not_overwritten_without_consent
     QVERIFY(!_stage->document.save(&message));
     QVERIFY(message.startsWith("later.subnodes"));
     QVERIFY(!_stage->document.saveAs(file, nullptr));
+    // By whatever name.
+    const QString link = _stage->path("link.subnodes");
+    QVERIFY(QFile::link(file, link));
+    QVERIFY(!_stage->document.saveAs(link, nullptr));
     QCOMPARE(contentOf(file), content);
     QVERIFY(_stage->document.save(nullptr, Consent::Given));
     QVERIFY(contentOf(file) != content);

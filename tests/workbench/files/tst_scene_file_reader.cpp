@@ -7,6 +7,8 @@
 #include "host/models/AT_ModelData.h"
 #include "host/models/TD_CelVq3d.h"
 
+#include "workbench/scenefile/SceneFormat.h"
+
 #include <OpenSG/OSGBaseFunctions.h>
 #include <QTest>
 #include <limits>
@@ -28,6 +30,7 @@ private slots:
     void what_is_wrong_is_left_out_and_noted();
     void every_truncation_of_a_file_is_read_as_far_as_it_goes();
     void a_fault_in_the_middle_keeps_what_is_before_it();
+    void groups_that_are_nested_too_deep_move_up();
     void version_1_is_brought_up();
     void a_later_version_is_read_as_far_as_it_is_known();
     void what_is_in_a_node_of_unknown_kind_moves_up();
@@ -212,6 +215,28 @@ void tst_scene_file_reader::a_fault_in_the_middle_keeps_what_is_before_it()
     QCOMPARE(_stage->root().nodes().size(), std::size_t(1));
     QCOMPARE(read.problems.count(Problem::Damage), 1);
     QVERIFY(read.problems.all().front().detail.contains("line 3"));
+}
+
+void tst_scene_file_reader::groups_that_are_nested_too_deep_move_up()
+{
+    QByteArrayList nodes;
+    constexpr int groups = SceneFormat::deepestGroup + 500;
+    for (int id = 1; id <= groups; ++id) {
+        const QByteArray inGroup =
+            id > 1 ? ", \"group\": " + QByteArray::number(id - 1) : QByteArray();
+        nodes << "{\"kind\": \"GROUP\", \"id\": " + QByteArray::number(id) + inGroup + "}";
+    }
+    const SceneFileReader::Result read =
+        SceneFileReader::read(sceneWith("\"nodes\": [" + nodes.join(", ") + "]"), {});
+    QCOMPARE(read.scene.nodes.size(), std::size_t(groups));
+    QVERIFY(read.problems.count(Problem::Value) > 0);
+    int deepest = 0;
+    std::vector<int> depths;
+    for (const SceneDescription::Node& node : read.scene.nodes) {
+        depths.push_back(node.parent < 0 ? 0 : depths[std::size_t(node.parent)] + 1);
+        deepest = std::max(deepest, depths.back());
+    }
+    QCOMPARE(deepest, SceneFormat::deepestGroup);
 }
 
 void tst_scene_file_reader::version_1_is_brought_up()

@@ -118,6 +118,18 @@ private slots:
             nodeOf(graph(), QStringLiteral("Torso"))));
     }
 
+    void folding_outlives_a_drawing_that_has_no_such_part()
+    {
+        exposeBox();
+        nodeOf(graph(), QStringLiteral("Torso"))->setCollapsed(true);
+        graph().controller()->uiInfo()->calculateGeometricData();
+        goTo(10);
+        QCOMPARE(names(graph()), (QStringList{"Lid", "Box"}));
+        goTo(1);
+        QVERIFY(nodeOf(graph(), QStringLiteral("Torso"))->isCollapsed());
+        QVERIFY(!nodeOf(graph(), QStringLiteral("Hips"))->isCollapsed());
+    }
+
     void a_frame_without_a_drawing_is_left_alone()
     {
         auto exposures = _robot->exposures();

@@ -7,9 +7,11 @@
 #include "host/scene/SC_CurrentFrameInterface.h"
 #include "subnodetree/SGV_Graph3DView.h"
 #include "tests/workbench/WindowTest.h"
+#include "workbench/docks/ViewDock.h"
 #include "workbench/window/FileActions.h"
 
 #include <QFile>
+#include <QLineEdit>
 #include <QTemporaryDir>
 #include <QTreeView>
 
@@ -67,6 +69,30 @@ private slots:
         QTest::mouseClick(list().viewport(), Qt::LeftButton, {},
                           list().visualItemRect(list().topLevelItem(0)).center());
         QCOMPARE(said(), QString());
+    }
+
+    void a_filter_that_keeps_nothing_says_so_in_the_tree_alone()
+    {
+        open({QStringLiteral(MODELS "/robot.gltf")});
+        QLineEdit* field = _window->treeView().filterField();
+        const auto textOver = [](QWidget* viewport) {
+            const auto* state = viewport->findChild<EmptyState*>();
+            return state && state->isVisible() ? state->text() : QString();
+        };
+        field->setText(QStringLiteral("wings"));
+        QVERIFY(textOver(_window->treeView().treeView()->viewport())
+                    .contains(QStringLiteral("\"wings\"")));
+        QCOMPARE(textOver(graph().viewport()), QString());
+        field->clear();
+        QCOMPARE(textOver(_window->treeView().treeView()->viewport()), QString());
+    }
+
+    void further_graph_views_have_one_too()
+    {
+        auto* other = dynamic_cast<GV_GraphXViewQt*>(_window->openGraphView()->view()->widget());
+        QVERIFY(other);
+        const auto* state = other->viewport()->findChild<EmptyState*>();
+        QVERIFY(state && state->isVisible());
     }
 
     void a_node_that_is_no_model_counts_as_none()

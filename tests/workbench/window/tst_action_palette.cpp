@@ -46,6 +46,18 @@ private:
     static double zoomOf(const GV_GraphXViewQt& view) { return view.transform().m11(); }
 
 private slots:
+    void edits_of_the_time_line_are_found_though_no_menu_has_them()
+    {
+        openPalette();
+        type(QStringLiteral("split"));
+        QCOMPARE(names().size(), 1);
+        QVERIFY2(names().first().startsWith(QStringLiteral("Timeline")),
+                 qPrintable(names().first()));
+        palette().field()->clear();
+        // What is in a menu is listed once.
+        QCOMPARE(names().filter(QStringLiteral("Next Frame")).size(), 1);
+    }
+
     void initTestCase() { QVERIFY(osg::osgInit(0, nullptr)); }
     void init() { openWindow(); }
     void cleanup() { closeWindow(); }
