@@ -4,22 +4,35 @@
 
 #include <QAbstractEventDispatcher>
 #include <algorithm>
+#include <ctime>
+
+namespace {
+
+double workedMilliseconds()
+{
+    timespec time{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_nsec) / 1e6;
+}
+
+} // namespace
 
 StepWatch::StepWatch()
+    : _last(workedMilliseconds())
 {
-    const QAbstractEventDispatcher* dispatcher = QAbstractEventDispatcher::instance();
-    connect(dispatcher, &QAbstractEventDispatcher::awake, this, &StepWatch::awake);
-    connect(dispatcher, &QAbstractEventDispatcher::aboutToBlock, this, &StepWatch::aboutToBlock);
-    _sinceAwake.start();
+    connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this,
+            &StepWatch::look);
 }
 
-void StepWatch::awake()
+double StepWatch::longestInMilliseconds()
 {
-    aboutToBlock();
-    _sinceAwake.restart();
+    look();
+    return _longest;
 }
 
-void StepWatch::aboutToBlock()
+void StepWatch::look()
 {
-    _longest = std::max(_longest, _sinceAwake.nsecsElapsed());
+    const double now = workedMilliseconds();
+    _longest = std::max(_longest, now - _last);
+    _last = now;
 }

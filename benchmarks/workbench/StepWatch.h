@@ -1,21 +1,21 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QElapsedTimer>
 #include <QObject>
 
-/// Finds the longest time during which the application did not come back to its event loop.
+/// Finds the longest work that the application did between two looks at its event loop, in the
+/// processor's time of the calling thread: waiting for others is no work.
 class StepWatch : public QObject
 {
 public:
     StepWatch();
 
-    double longestInMilliseconds() const { return static_cast<double>(_longest) / 1e6; }
+    /// With what was done since the last look.
+    double longestInMilliseconds();
 
 private:
-    void awake();
-    void aboutToBlock();
+    void look();
 
-    QElapsedTimer _sinceAwake;
-    qint64 _longest = 0;
+    double _last;
+    double _longest = 0.0;
 };
