@@ -3,10 +3,11 @@
 # Makes the pictures of the documents anew, so that they show what the program really draws:
 #   docs/make_pictures.sh            with the release build
 #   BUILD=build/dev docs/make_pictures.sh
+#   IMAGES=FOLDER docs/make_pictures.sh      into another folder, which is made if need be
 set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 program="$root/${BUILD:-build/release}/bin/subnode-workbench"
-images="$root/docs/images"
+images=${IMAGES:-$root/docs/images}
 folder=$(mktemp -d)
 trap 'rm -rf "$folder"' EXIT
 
@@ -15,6 +16,7 @@ export QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8
 unset QT_SCALE_FACTOR
 
 mkdir -p "$images"
+images=$(cd "$images" && pwd)
 cp "$root"/models/*.gltf "$folder"
 cd "$folder"
 
