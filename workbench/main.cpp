@@ -9,11 +9,13 @@
 #include "workbench/language/Translations.h"
 #include "workbench/preferences/PreferencesDialog.h"
 #include "workbench/preferences/ThemeSwitch.h"
+#include "workbench/resources/Resources.h"
 #include "workbench/window/FileActions.h"
 #include "workbench/window/WorkbenchWindow.h"
 
 #include <OpenSG/OSGBaseFunctions.h>
 #include <QApplication>
+#include <QIcon>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <algorithm>
@@ -195,6 +197,9 @@ int main(int argc, char** argv)
     QApplication::setApplicationName(QStringLiteral("subnode-workbench"));
     QApplication::setOrganizationName(QStringLiteral("subnode-views"));
     QApplication::setApplicationVersion(QStringLiteral(SUBNODEVIEWS_VERSION));
+    initWorkbenchResources();
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/workbench/application.svg")));
+    QApplication::setDesktopFileName(QStringLiteral("subnode-workbench"));
     const Translations translations;
     osg::osgInit(argc, argv);
     const int code = run(*outcome.commandLine);
