@@ -12,6 +12,8 @@
 #include "referencehost/commands/SetExposures.h"
 
 #include <OpenSG/OSGBaseFunctions.h>
+#include <QFileInfo>
+#include <QFileSystemWatcher>
 #include <QSignalSpy>
 #include <QTest>
 #include <QUndoStack>
@@ -247,9 +249,12 @@ void tst_model_reload::a_file_that_is_gone_for_a_moment_is_reloaded()
     ModelWatch watch(_stage->session, *_reload);
     watch.setPatience(20);
     QSignalSpy failed(_reload.get(), &ModelReload::failed);
+    QFileSystemWatcher observer({QFileInfo(_file).absolutePath()});
+    const QSignalSpy noticed(&observer, &QFileSystemWatcher::directoryChanged);
     QVERIFY(QFile::remove(_file));
-    // Long enough for the watch to find it gone.
-    QTest::qWait(200);
+    // What one watcher has heard of, the other hears of in the same round of events.
+    QTRY_VERIFY(!noticed.isEmpty());
+    QCoreApplication::processEvents();
     _stage->writeModel("arm.obj", {"Claw"});
     QTRY_VERIFY_WITH_TIMEOUT(shows("Claw"), 30000);
     QCOMPARE(failed.count(), 0);
@@ -261,10 +266,15 @@ void tst_model_reload::a_watch_that_is_off_reloads_nothing()
     watch.setPatience(0);
     watch.setEnabled(false);
     QVERIFY(watch.files().isEmpty());
-    QSignalSpy finished(_reload.get(), &ModelReload::finished);
+    QFileSystemWatcher observer({_file});
+    const QSignalSpy noticed(&observer, &QFileSystemWatcher::fileChanged);
+    const QSignalSpy started(&_stage->loader, &ModelLoader::started);
     _stage->writeModel("arm.obj", {"Claw"});
-    QTest::qWait(200);
-    QCOMPARE(finished.count(), 0);
+    QTRY_VERIFY(!noticed.isEmpty());
+    // Once for the notice, once for the patience of none.
+    QCoreApplication::processEvents();
+    QCoreApplication::processEvents();
+    QCOMPARE(started.count(), 0);
     watch.setEnabled(true);
     QCOMPARE(watch.files(), QStringList(_file));
 }
