@@ -7,6 +7,7 @@
 
 #include <QAbstractItemView>
 #include <QLineEdit>
+#include <QScopeGuard>
 #include <QSignalSpy>
 #include <QStyleOptionSpinBox>
 
@@ -33,6 +34,11 @@ private:
     }
     void clickAnotherEntry(QComboBox* box)
     {
+        // A click right after the list came up counts as the end of the click that opened it.
+        const int interval = QApplication::doubleClickInterval();
+        QApplication::setDoubleClickInterval(0);
+        const auto restore =
+            qScopeGuard([interval] { QApplication::setDoubleClickInterval(interval); });
         // The arrow, since the rest of an editable box is for typing.
         QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(box->width() - 8, box->height() / 2));
         QAbstractItemView* list = box->view();
@@ -40,8 +46,7 @@ private:
         const int row = (box->currentIndex() + 1) % box->count();
         const QModelIndex entry = box->model()->index(row, box->modelColumn());
         list->scrollTo(entry);
-        // A click right after the list came up counts as the end of the click that opened it.
-        QTest::qWait(QApplication::doubleClickInterval() + 50);
+        QCoreApplication::processEvents();
         QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(entry).center());
         QTRY_VERIFY(!list->isVisible());
     }
